@@ -1,0 +1,144 @@
+#include "app/bindings.h"
+
+#include <algorithm>
+
+#include "core/desk/button_events.h"
+#include "core/desk/desk_events.h"
+#include "core/desk/map_gestures.h"
+#include "core/desk/startup.h"
+#include "core/windows/form1.h"
+#include "core/windows/small_windows.h"
+#include "platform/dispatch.h"
+#include "terrain/fractal/fractal_state.h"
+
+namespace ombrelia {
+
+namespace {
+
+// A control of its own, or all controls of one name in a window.
+struct Binding {
+    Window* window;
+    const char* name;  // empty: the window itself
+    Event event;
+    Handler handler;
+};
+
+const Binding kBindings[] = {
+    {&frmSplash, "", Event::Load, frmSplash_Load},
+    {&frmSplash, "", Event::Click, frmSplash_Click},
+    {&frmSplash, "Title", Event::Click, frmSplash_Click},
+    {&frmSplash, "Subtitle", Event::Click, frmSplash_Click},
+    {&frmSplash, "Maker", Event::Click, frmSplash_Click},
+    {&frmSplash, "Timer1", Event::Timer, frmSplash_Timer},
+
+    {&SizeSelect, "", Event::Load, SizeSelect_Load},
+    {&SizeSelect, "", Event::Unload, SizeSelect_Unload},
+    {&SizeSelect, "Label11", Event::MouseDown, Title_MouseDown},
+    {&SizeSelect, "NTool", Event::MouseDown, SizeSelect_ButtonDown},
+    {&SizeSelect, "NTool", Event::MouseMove, SizeSelect_ButtonMove},
+    {&SizeSelect, "NTool", Event::MouseUp, SizeSelect_ButtonUp},
+    {&SizeSelect, "NTool", Event::Click, SizeSelect_Choose},
+    {&SizeSelect, "LTool", Event::MouseDown, SizeSelect_ButtonDown},
+    {&SizeSelect, "LTool", Event::MouseMove, SizeSelect_ButtonMove},
+    {&SizeSelect, "LTool", Event::MouseUp, SizeSelect_ButtonUp},
+    {&SizeSelect, "LTool", Event::Click, SizeSelect_Choose},
+    {&SizeSelect, "Picture1", Event::MouseMove, SizeSelect_GroundMove},
+    {&SizeSelect, "Label2", Event::MouseMove, SizeSelect_JokeMove},
+    {&SizeSelect, "Label2", Event::DblClick, SizeSelect_JokeDblClick},
+
+    {&Form1, "", Event::Load, Form1_Load},
+    {&Form1, "", Event::Unload, Form1_Unload},
+    {&Form1, "", Event::MouseMove, Ground_MouseMove},
+    {&Form1, "", Event::Click, Ground_Click},
+    {&Form1, "Timer1", Event::Timer, Form1_Timer},
+    {&Form1, "Label11", Event::MouseDown, Title_MouseDown},
+    {&Form1, "Label32", Event::Click, Label32_Click},
+    {&Form1, "NTool", Event::MouseDown, NTool_MouseDown},
+    {&Form1, "NTool", Event::MouseMove, NTool_MouseMove},
+    {&Form1, "NTool", Event::MouseUp, NTool_MouseUp},
+    {&Form1, "LTool", Event::MouseDown, NTool_MouseDown},
+    {&Form1, "LTool", Event::MouseMove, NTool_MouseMove},
+    {&Form1, "LTool", Event::MouseUp, NTool_MouseUp},
+    {&Form1, "TwoFrame", Event::MouseMove, Ground_MouseMove},
+    {&Form1, "Label1", Event::MouseMove, QuietPart_MouseMove},
+    {&Form1, "Label4", Event::MouseMove, QuietPart_MouseMove},
+    {&Form1, "ZoomView", Event::MouseMove, QuietPart_MouseMove},
+    {&Form1, "MapView", Event::MouseDown, MapView_MouseDown},
+    {&Form1, "MapView", Event::MouseMove, MapView_MouseMove},
+    {&Form1, "MapView", Event::MouseUp, MapView_MouseUp},
+    {&Form1, "Picker", Event::MouseDown, Picker_MouseDown},
+    {&Form1, "Picker", Event::MouseMove, Picker_MouseMove},
+    {&Form1, "Picker", Event::MouseUp, Picker_MouseUp},
+    {&Form1, "VertScroller", Event::MouseDown, VertScroller_MouseDown},
+    {&Form1, "VertScroller", Event::MouseMove, VertScroller_MouseMove},
+    {&Form1, "Scroller", Event::MouseDown, Scroller_MouseDown},
+    {&Form1, "Scroller", Event::MouseMove, Scroller_MouseMove},
+    {&Form1, "Scroller", Event::MouseUp, Scroller_MouseUp},
+    {&Form1, "ScrollUp", Event::MouseDown, Arrow_MouseDown},
+    {&Form1, "ScrollUp", Event::MouseUp, Arrow_MouseUp},
+    {&Form1, "ScrollDown", Event::MouseDown, Arrow_MouseDown},
+    {&Form1, "ScrollDown", Event::MouseUp, Arrow_MouseUp},
+    {&Form1, "OptFrame", Event::MouseDown, OptFrame_MouseDown},
+    {&Form1, "OptFrame", Event::MouseMove, OptFrame_MouseMove},
+    {&Form1, "OptFrame", Event::MouseUp, OptFrame_MouseUp},
+    {&Form1, "Picture1", Event::MouseDown, OptFrame_MouseDown},
+    {&Form1, "Picture1", Event::MouseMove, OptFrame_MouseMove},
+    {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
+    {&Form1, "Combo1", Event::Click, Combo1_Click},
+};
+
+void bind(const Binding& row) {
+    const auto slot = static_cast<std::size_t>(row.event);
+    if (*row.name == '\0') {
+        row.window->On[slot] = row.handler;
+        return;
+    }
+    for (Control* control : row.window->Controls) {
+        if (control->Name == row.name) {
+            control->On[slot] = row.handler;
+        }
+    }
+}
+
+}  // namespace
+
+const std::vector<Window*>& allWindows() {
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1, &HelpFrm};
+    return windows;
+}
+
+const std::vector<ValueRow>& allValues() {
+    static const std::vector<ValueRow> values = [] {
+        std::vector<ValueRow> rows = coreValues();
+        const std::vector<ValueRow> fractal = fractalValues();
+        rows.insert(rows.end(), fractal.begin(), fractal.end());
+        return rows;
+    }();
+    return values;
+}
+
+void bindEvents() {
+    for (Window* window : allWindows()) {
+        window->Design();
+    }
+    HelpFrm.DockedTo = &Form1;
+    for (const Binding& row : kBindings) {
+        bind(row);
+    }
+    setStopRequest(requestStop);
+}
+
+void resetProcess() {
+    for (const ValueRow& row : allValues()) {
+        row.reset();
+    }
+    for (Window* window : allWindows()) {
+        window->Loaded = false;
+        window->Visible = false;
+        window->Minimized = false;
+    }
+    resetDispatch();
+    bindEvents();
+}
+
+}  // namespace ombrelia

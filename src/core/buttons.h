@@ -1,0 +1,18 @@
+// The faces of the buttons.
+#pragma once
+
+#include "platform/control.h"
+
+namespace ombrelia {
+
+// Sets the face of button i (0..100) from its Kind and State and places what lies on it. A state
+// that has no face leaves the face as it is.
+void DrawButton(int i);
+
+// The variant of the size dialog, for its kinds 1 and 2.
+void DrawSizeButton(int i);
+
+// Whether button i is on (State 2).
+bool isOn(int i);
+
+}  // namespace ombrelia

@@ -1,0 +1,107 @@
+#include "core/desk/desk_events.h"
+
+#include "core/button_numbers.h"
+#include "core/buttons.h"
+#include "core/desk/button_events.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/progress.h"
+#include "core/windows/form1.h"
+#include "core/windows/small_windows.h"
+#include "panels/option_frames.h"
+#include "panels/sliders.h"
+#include "platform/services.h"
+
+namespace ombrelia {
+
+namespace {
+
+// Keeps the hint frame against the editor's right edge.
+void dockHint() {
+    HelpFrm.Top = Form1.Top;
+    HelpFrm.Left = Form1.Left + Form1.Width;
+}
+
+// The test uses the window's own caption, so it holds while the title has a suffix.
+void colorTitle() {
+    const bool isActive = services().desktop->activeWindowCaption() == AppName;
+    Form1.Label11.ForeColor = isActive ? TitleActiveColor : TitleInactiveColor;
+}
+
+// Frame under the pointer, -1 for the viewport behind the frames.
+int frameOf(const EventArgs& args) {
+    return args.Source == &Form1.Picture1 ? -1 : args.Index;
+}
+
+}  // namespace
+
+void Form1_Timer(EventArgs& /*args*/) {
+    dockHint();
+    scrollHeldArrow();
+    showProgress();
+    colorTitle();
+    finishStop();
+}
+
+void Ground_MouseMove(EventArgs& /*args*/) {
+    MouseState = kGestureNone;
+    clearHover();
+}
+
+void Ground_Click(EventArgs& /*args*/) {
+    OptionStates(button::kMenu).State = kUp;
+    DrawButton(button::kMenu);
+}
+
+void QuietPart_MouseMove(EventArgs& /*args*/) {
+    clearHover();
+}
+
+void Label32_Click(EventArgs& /*args*/) {
+    services().desktop->openWebPage(kMakerPage);
+}
+
+void VertScroller_MouseDown(EventArgs& args) {
+    beginThumbDrag(args.Index, args.X);
+}
+
+void VertScroller_MouseMove(EventArgs& args) {
+    if (args.Button == MouseButton::Left) {
+        dragThumb(args.Index, args.X);
+    }
+}
+
+void Scroller_MouseDown(EventArgs& args) {
+    beginStripThumbDrag(args.Y);
+}
+
+void Scroller_MouseMove(EventArgs& args) {
+    dragStripThumb(args.Y);
+}
+
+void Scroller_MouseUp(EventArgs& /*args*/) {
+    endStripThumbDrag();
+}
+
+void Arrow_MouseDown(EventArgs& args) {
+    holdArrow(args.Source == &Form1.ScrollUp(0));
+}
+
+void Arrow_MouseUp(EventArgs& args) {
+    releaseArrow(args.Source == &Form1.ScrollUp(0));
+}
+
+void OptFrame_MouseDown(EventArgs& args) {
+    beginFrameDrag(frameOf(args), args.Y);
+}
+
+void OptFrame_MouseMove(EventArgs& args) {
+    clearHover();
+    dragFrames(frameOf(args), args.Y);
+}
+
+void OptFrame_MouseUp(EventArgs& /*args*/) {
+    endFrameDrag();
+}
+
+}  // namespace ombrelia

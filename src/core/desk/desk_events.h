@@ -1,0 +1,27 @@
+// The editor's timer, its ground, and the handlers of the option strip.
+#pragma once
+
+#include "platform/control.h"
+
+namespace ombrelia {
+
+// Address of the maker's page.
+inline constexpr const char* kMakerPage = "https://quillbyte.example/";
+
+void Form1_Timer(EventArgs& args);
+void Ground_MouseMove(EventArgs& args);
+void Ground_Click(EventArgs& args);
+void QuietPart_MouseMove(EventArgs& args);
+void Label32_Click(EventArgs& args);
+void VertScroller_MouseDown(EventArgs& args);
+void VertScroller_MouseMove(EventArgs& args);
+void Scroller_MouseDown(EventArgs& args);
+void Scroller_MouseMove(EventArgs& args);
+void Scroller_MouseUp(EventArgs& args);
+void Arrow_MouseDown(EventArgs& args);
+void Arrow_MouseUp(EventArgs& args);
+void OptFrame_MouseDown(EventArgs& args);
+void OptFrame_MouseMove(EventArgs& args);
+void OptFrame_MouseUp(EventArgs& args);
+
+}  // namespace ombrelia

@@ -1,0 +1,96 @@
+#include "core/desk/init_editor.h"
+
+#include <cmath>
+
+#include "core/button_numbers.h"
+#include "core/button_table.h"
+#include "core/buttons.h"
+#include "core/color_sets.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "panels/option_frames.h"
+#include "panels/sliders.h"
+#include "views/view_mode.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr std::int16_t kSeaLevelHeight = 31;
+constexpr std::int16_t kNewMapHeight = 40;
+constexpr std::int16_t kStartYaw = 180;
+constexpr std::int16_t kStartTilt = 135;
+constexpr double kPi = 3.14159;  // Required: five decimals (angle_tables_use_short_pi)
+
+struct GroupStart {
+    int group;
+    std::int16_t button;
+};
+constexpr GroupStart kGroupStarts[] = {
+    {group::kTools, button::kColorPicker},
+    {group::kViewMode, button::k2DMode},
+    {group::kMotion3D, button::kRotate3D},
+    {group::kMountainSides, button::kMountainSmooth},
+    {group::kCanyonEdges, button::kCanyonSlightlySteep},
+    {group::kCursorColors, button::kColorCursors},
+    {group::kStyle3D, button::kStylePolygon},
+};
+
+void fillGroups() {
+    GroupCurrent.fill(0);
+    for (const GroupStart& row : kGroupStarts) {
+        GroupCurrent(row.group) = row.button;
+    }
+}
+
+void fillHeights() {
+    HeightMap.fill(BaseHeight);
+    ShadowMap.fill(BaseHeight);
+}
+
+}  // namespace
+
+void fillButtons() {
+    for (int i = 0; i <= button::kLastOfEditor; ++i) {
+        ButtonRecord& record = OptionStates(i);
+        record.State = kUp;
+        if (const ButtonStart* start = buttonStart(i)) {
+            record.State = start->state;
+            record.Kind = start->kind;
+            record.Latching = start->latching;
+            record.Exclusive = start->exclusive;
+            record.Group = start->group;
+        }
+        if (i == button::kStylePolygon) {
+            record.SavedState = kOn;
+        }
+        DrawButton(i);
+    }
+}
+
+void fillAngleTables() {
+    for (int k = 0; k <= 2160; ++k) {
+        const double angle = ((k - 1080) / 3.0) * (kPi / 180);
+        SinTable(k) = std::sin(angle);
+        CosTable(k) = std::cos(angle);
+    }
+}
+
+void InitEditor() {
+    SeaLevel = kSeaLevelHeight;
+    BaseHeight = kNewMapHeight;
+    ViewYaw = kStartYaw;
+    fillDefaultColors();
+    fillSliders();
+    SwitchViewMode(kMode2D);
+    ViewZoom = 1.0;
+    ViewTilt = kStartTilt;
+    fillGroups();
+    fillButtons();
+    fillHeights();
+    layOutOptionFrames();
+    placeProgressFrame();
+    fillAngleTables();
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,217 @@
+#include "core/desk/map_gestures.h"
+
+#include <cmath>
+
+#include "core/button_numbers.h"
+#include "core/buttons.h"
+#include "core/color_display.h"
+#include "core/desk/button_events.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "platform/dispatch.h"
+#include "platform/numeric.h"
+#include "platform/window_life.h"
+#include "views/map2d/magnifier.h"
+#include "views/map2d/map_transform.h"
+
+namespace ombrelia {
+
+namespace {
+
+bool is3D() {
+    return isOn(button::k3DMode);
+}
+
+// The event's place: cells in the view from above, scale units in perspective.
+struct Place {
+    float x, y;
+};
+Place placeOf(const EventArgs& args) {
+    if (is3D()) {
+        return {args.X, args.Y};
+    }
+    return {cellX(args.X), cellY(args.Y)};
+}
+
+bool isInMap(const Place& place) {
+    const auto side = static_cast<float>(MapSize);
+    return place.x >= 0 && place.x <= side && place.y >= 0 && place.y <= side;
+}
+
+void pickHeight(const Place& place) {
+    if (isInMap(place)) {
+        DrawHeight = HeightMap(static_cast<int>(roundToEven(place.x)),
+                               static_cast<int>(roundToEven(place.y)));
+    }
+    UpdatePickedColor();
+}
+
+std::int16_t pointerPixelX() {
+    return floorToInt16(Form1.PointerX);
+}
+
+std::int16_t pointerPixelY() {
+    return floorToInt16(Form1.PointerY);
+}
+
+// Makes another member the current one of its group, both painted.
+void exchange(int off, int on) {
+    OptionStates(off).State = kUp;
+    OptionStates(on).State = kOn;
+    DrawButton(off);
+    DrawButton(on);
+    GroupCurrent(OptionStates(on).Group) = static_cast<std::int16_t>(on);
+}
+
+void swapPanAndZoom() {
+    if (isOn(button::kZoom2D)) {
+        exchange(button::kZoom2D, button::kPan2D);
+    } else if (isOn(button::kPan2D)) {
+        exchange(button::kPan2D, button::kZoom2D);
+    }
+}
+
+void zoomDrag() {
+    const std::int16_t x = pointerPixelX();
+    MapZoom = roundToInt16(MapZoom - (x - DragPixelX));
+    ApplyMapTransform();
+    DragPixelX = x;
+}
+
+void panDrag() {
+    const std::int16_t x = pointerPixelX();
+    const std::int16_t y = pointerPixelY();
+    MapPanY = roundToInt16(MapPanY + (y - DragPixelY));
+    MapPanX = roundToInt16(MapPanX + (x - DragPixelX));
+    ApplyMapPan();
+    DragPixelX = x;
+    DragPixelY = y;
+}
+
+// Ends a drag that stayed beyond an edge, at the cut place scaled back.
+void releaseAt(const EventArgs& args, const Place& place) {
+    const Surface& view = Form1.MapView.Canvas;
+    EventArgs release = args;
+    if (!is3D()) {
+        release.X = place.x * (view.ScaleWidth / static_cast<float>(MapSize));
+        release.Y = place.y * (view.ScaleHeight / static_cast<float>(MapSize));
+    }
+    MapView_MouseUp(release);
+}
+
+}  // namespace
+
+void ClampToMap(float& x, float& y, std::int16_t& result) {
+    const auto s = static_cast<float>(MapSize);
+    const int across = x > s ? 1 : (x < 0 ? -1 : 0);
+    const int down = y > s ? 1 : (y < 0 ? -1 : 0);
+    // Zone by row (above, in range, below) and column (left, in range, right).
+    constexpr std::int16_t kZones[3][3] = {{6, 5, 7}, {4, 0, 1}, {8, 2, 3}};
+    const std::int16_t zone = kZones[down + 1][across + 1];
+    if (across != 0) {
+        x = across > 0 ? s : 0;
+    }
+    if (down != 0) {
+        y = down > 0 ? s : 0;
+    }
+    result = zone != LastEdgeZone || zone == 0 ? std::int16_t{0} : std::int16_t{1};
+    LastEdgeZone = zone;
+}
+
+void MapView_MouseDown(EventArgs& args) {
+    const Place place = placeOf(args);
+    DoubleClickPending = 0;
+    DownX = place.x;
+    DownY = place.y;
+    if (isOn(button::kColorPicker)) {
+        MouseState = kGesturePick;
+        pickHeight(place);
+    }
+    if (args.Button == MouseButton::Right) {
+        swapPanAndZoom();
+    }
+    if (isOn(button::kZoom2D)) {
+        MouseState = kGestureMapZoom;
+        DragPixelX = pointerPixelX();
+    }
+    if (isOn(button::kPan2D)) {
+        MouseState = kGestureMapPan;
+        beginMapPan();
+        DragPixelX = pointerPixelX();
+        DragPixelY = pointerPixelY();
+    }
+}
+
+void MapView_MouseMove(EventArgs& args) {
+    Place place = placeOf(args);
+    clearHover();
+    std::int16_t isStayingOutside = 0;
+    if (!is3D()) {
+        ClampToMap(place.x, place.y, isStayingOutside);
+    }
+    if (MouseState != kGestureNone && isStayingOutside == 1) {
+        releaseAt(args, place);
+    }
+    showUnderPointer(place.x, place.y);
+    if (isOn(button::kColorPicker) && MouseState == kGesturePick) {
+        pickHeight(place);
+    }
+    if (isOn(button::kZoom2D) && MouseState == kGestureMapZoom) {
+        zoomDrag();
+    }
+    if (isOn(button::kPan2D) && MouseState == kGestureMapPan) {
+        panDrag();
+    }
+    if (MouseState != kGestureNone) {
+        refreshControl(Form1.MapView);
+    }
+}
+
+void MapView_MouseUp(EventArgs& args) {
+    Place place = placeOf(args);
+    std::int16_t ignored = 0;
+    ClampToMap(place.x, place.y, ignored);
+    if (isOn(button::kColorPicker)) {
+        pickHeight(place);
+    }
+    MouseState = kGestureNone;
+}
+
+namespace {
+
+void pickFromStrip(float y) {
+    DrawHeight = roundToInt16(255 - static_cast<double>(y));
+    UpdatePickedColor();
+}
+
+// Required: the two limits differ (the_picker_drag_ends_at_253).
+constexpr float kDragLimit = 253;
+constexpr float kReleaseLimit = 255;
+
+}  // namespace
+
+void Picker_MouseDown(EventArgs& args) {
+    MouseState = kGesturePickerDrag;
+    pickFromStrip(args.Y);
+}
+
+void Picker_MouseMove(EventArgs& args) {
+    if (MouseState != kGesturePickerDrag) {
+        return;
+    }
+    if (args.Y >= 0 && args.Y < kDragLimit) {
+        pickFromStrip(args.Y);
+    } else {
+        MouseState = kGestureNone;
+    }
+}
+
+void Picker_MouseUp(EventArgs& args) {
+    if (args.Y >= 0 && args.Y < kReleaseLimit) {
+        pickFromStrip(args.Y);
+    }
+    MouseState = kGestureNone;
+}
+
+}  // namespace ombrelia

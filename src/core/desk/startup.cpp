@@ -1,0 +1,297 @@
+#include "core/desk/startup.h"
+
+#include "core/button_numbers.h"
+#include "core/buttons.h"
+#include "core/color_display.h"
+#include "core/color_ramp.h"
+#include "core/color_sets.h"
+#include "core/desk/init_editor.h"
+#include "core/desk/preferences.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/progress.h"
+#include "core/windows/form1.h"
+#include "core/windows/layout.h"
+#include "core/windows/small_windows.h"
+#include "platform/dispatch.h"
+#include "platform/messages.h"
+#include "platform/services.h"
+#include "platform/window_life.h"
+#include "views/map2d/map_transform.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr const char* kProgramName = "Ombrelia Terrain Editor";
+constexpr const char* kColorProbeKey = "111";  // of the working colours; kMissingProbe: not stored
+constexpr double kMissingProbe = 900;
+
+struct SizeChoice {
+    int button;
+    std::int16_t mapSize;
+    const char* suffix;
+};
+constexpr SizeChoice kSizes[] = {
+    {button::kSizeMiniature, kMiniatureSize, " - Miniature Map"},
+    {button::kSizeSmall, kSmallSize, " - Small Map"},
+    {button::kSizeMedium, kMediumSize, " - Medium Map"},
+    {button::kSizeLarge, kLargeSize, " - Large Map"},
+};
+
+const char* sizeSuffix() {
+    for (const SizeChoice& row : kSizes) {
+        if (row.mapSize == MapSize) {
+            return row.suffix;
+        }
+    }
+    return "";
+}
+
+bool isSavedBefore() {
+    SettingsStore& store = *services().settings;
+    const double probe = storedNumber(
+        store.read(std::string(kColorSetPrefix) + kCurrentColors, kColorProbeKey, "900"));
+    return store.read(kSettingsSection, kSavedBeforeKey, "0") == "1" && probe != kMissingProbe;
+}
+
+void fillBackBuffer() {
+    std::int16_t height = BaseHeight;
+    Form1.Mapview2.Canvas.box(0, 0, kViewSide, kViewSide, HeightToColor(height));
+}
+
+void showColors() {
+    PaintPicker();
+    PaintPrefPicker();
+    showWindow(Form1);
+    UpdatePickedColor();
+    ShowColorSet();
+    ListColorSets();
+}
+
+void selectComboEntry(int entry) {
+    if (Form1.Combo1.ListIndex == entry) {
+        return;
+    }
+    Form1.Combo1.ListIndex = entry;
+    Form1.Combo1.Caption = Form1.Combo1.List[static_cast<std::size_t>(entry)];
+    raise(Form1.Combo1, Event::Click);
+}
+
+void layOutEdges() {
+    const double right = SizeSelect.Width - 1;
+    const double bottom = SizeSelect.Height - 1;
+    const double ends[][4] = {
+        {0, 0, 0, bottom}, {0, 0, right, 0}, {right, 0, right, bottom}, {0, bottom, right, bottom}};
+    for (int i = 0; i < 4; ++i) {
+        Line& edge = SizeSelect.Edge(i);
+        edge.X1 = ends[i][0];
+        edge.Y1 = ends[i][1];
+        edge.X2 = ends[i][2];
+        edge.Y2 = ends[i][3];
+    }
+}
+
+// The button of an event that may have come through its text.
+void setSizeButton(int number, int state) {
+    if (OptionStates(number).State != state) {
+        OptionStates(number).State = static_cast<std::int16_t>(state);
+        DrawSizeButton(number);
+    }
+}
+
+void clearSizeHover(int except) {
+    for (int i = button::kSizeMiniature; i <= button::kSizeClose; ++i) {
+        if (i != except && OptionStates(i).State == kHover) {
+            setSizeButton(i, kUp);
+        }
+    }
+}
+
+void openEditor() {
+    showWindow(Form3);
+    refreshControl(Form3);
+    showWindow(Form1);
+    unloadWindow(Form3);
+    unloadWindow(SizeSelect);
+}
+
+}  // namespace
+
+void startEditor() {
+    showWindow(frmSplash);
+}
+
+void frmSplash_Load(EventArgs& /*args*/) {
+    AppName = kProgramName;
+    loadWindow(SizeSelect);
+}
+
+void frmSplash_Timer(EventArgs& /*args*/) {
+    if (SplashMode == 1) {
+        return;
+    }
+    unloadWindow(frmSplash);
+    if (SplashMode == 0) {
+        showWindow(SizeSelect);
+    }
+}
+
+void frmSplash_Click(EventArgs& args) {
+    frmSplash_Timer(args);
+    if (SplashMode == 1) {
+        unloadWindow(frmSplash);
+    }
+}
+
+void SizeSelect_Load(EventArgs& /*args*/) {
+    loadWindow(HelpFrm);
+    loadWindow(Form3);
+    SizeSelect.Picture1.Face = HelpFrm.Face;
+    for (int i = button::kSizeMiniature; i <= button::kSizeClose; ++i) {
+        ButtonRecord& record = OptionStates(i);
+        record.Kind = i == button::kSizeClose ? kind::kClose : kind::kStand;
+        record.Latching = 0;
+        record.State = kUp;
+        DrawSizeButton(i);
+    }
+    layOutEdges();
+}
+
+// The dialog closed from outside, with no editor to return to, ends the process as its own close
+// button does.
+void SizeSelect_Unload(EventArgs& /*args*/) {
+    if (!Form1.Loaded) {
+        endProcess();
+    }
+}
+
+void SizeSelect_Choose(EventArgs& args) {
+    const int number = args.Index;
+    if (number == button::kSizeClose) {
+        endProcess();
+    }
+    if (number == button::kSizeImport) {
+        MapSize = kLargeSize;
+        ImportAtStart = 1;
+    }
+    for (const SizeChoice& row : kSizes) {
+        if (row.button == number) {
+            MapSize = row.mapSize;
+        }
+    }
+    openEditor();
+}
+
+void SizeSelect_ButtonDown(EventArgs& args) {
+    if (args.Button == MouseButton::Left) {
+        setSizeButton(args.Index, kOn);
+    }
+}
+
+void SizeSelect_ButtonMove(EventArgs& args) {
+    SizeSelect.Label2.Caption = kImportLine;
+    clearSizeHover(args.Index);
+    if (args.Button != MouseButton::Left && OptionStates(args.Index).State == kUp) {
+        setSizeButton(args.Index, kHover);
+    }
+}
+
+void SizeSelect_ButtonUp(EventArgs& args) {
+    setSizeButton(args.Index, kHover);
+}
+
+void SizeSelect_GroundMove(EventArgs& /*args*/) {
+    SizeSelect.Label2.Caption = kImportLine;
+    clearSizeHover(-1);
+}
+
+void SizeSelect_JokeMove(EventArgs& /*args*/) {
+    SizeSelect.Label2.Caption = kImportLineHovered;
+}
+
+void SizeSelect_JokeDblClick(EventArgs& /*args*/) {
+    SizeSelect.Label2.Caption = kImportLineArmed;
+    EggArmed = 1;
+}
+
+void Form1_Load(EventArgs& /*args*/) {
+    InitEditor();
+    TitleActiveColor = Form1.Label11.ForeColor;
+    TitleInactiveColor = rgb(70, 70, 255);
+    Form1.Label11.Caption = AppName + sizeSuffix();
+    SaveColorSet("Default");
+    if (isSavedBefore()) {
+        LoadPreferences();
+    } else {
+        ResetPreferences();
+    }
+    if (isOn(button::kShowHelpBox)) {
+        showWindow(HelpFrm);
+    }
+    fillBackBuffer();
+    ApplyMapTransform();
+    SplashMode = 1;
+    DrawHeight = BaseHeight;
+    showWindow(Form1);
+    refreshControl(Form1);
+    showColors();
+    SuppressComboClick = 1;
+    selectComboEntry(0);
+}
+
+void Form1_Unload(EventArgs& /*args*/) {
+    ExitEditor();
+}
+
+void StartNewMap() {
+    const int answer = services().dialogs->message(messages::kNewMapQuestion,
+                                                   kYesNoStopSecondDefault, messages::kNewMapTitle);
+    if (answer != kAnswerYes) {
+        return;
+    }
+    showWindow(SizeSelect);
+    NewMapPending = 1;
+    unloadWindow(Form1);
+}
+
+void ExitEditor() {
+    SavePreferences();
+    if (NewMapPending == 1) {
+        NewMapPending = 0;
+        return;
+    }
+    const int answer = services().dialogs->message(messages::kExitQuestion, kYesNoStopSecondDefault,
+                                                   messages::kExitTitle);
+    if (answer == kAnswerYes) {
+        endProcess();
+    }
+}
+
+void repairAfterFailure() {
+    if (!Form1.Loaded) {
+        return;
+    }
+    StopFlag = 0;
+    if (ProgressState == 1) {
+        ProgressState = 2;
+    }
+    MouseState = kGestureNone;
+    SetToolsEnabled(true);
+    Form1.Line1.Visible = false;
+    showProgress();
+}
+
+void Title_MouseDown(EventArgs& args) {
+    if (args.Button == MouseButton::Left) {
+        services().desktop->beginWindowMove(*args.Source->Owner);
+    }
+}
+
+void Combo1_Click(EventArgs& /*args*/) {
+    if (SuppressComboClick == 1) {
+        SuppressComboClick = 0;
+    }
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,99 @@
+#include "core/progress.h"
+
+#include <cmath>
+
+#include "core/button_numbers.h"
+#include "core/windows/form1.h"
+#include "platform/numeric.h"
+
+namespace ombrelia {
+
+std::int16_t StopFlag = 0;
+std::int16_t ProgressState = 0;
+std::int32_t ProgressTotal = 0;
+std::int32_t ProgressDone = 0;
+std::int32_t ProgressShown = 0;
+
+namespace {
+
+constexpr int kGreenFace = 0;
+constexpr int kRedFace = 2;
+
+void enableButton(int button, bool enabled) {
+    for (const int index : {button, button + kOverlayOffset}) {
+        if (Form1.NTool.has(index)) {
+            Form1.NTool(index).Enabled = enabled;
+        }
+    }
+}
+
+void showBar() {
+    const double share = static_cast<double>(ProgressDone) / ProgressTotal;
+    Form1.PBar.Width = std::floor((Form1.PBarBack.Width - 2) * share);
+    ProgressShown = ProgressDone;
+    const std::int64_t percent = floorToWhole(share * 100);
+    // Required: a blank stands where a sign would (progress_text_has_a_leading_blank).
+    const char* sign = percent < 0 ? "" : " ";
+    Form1.PercDone.Caption = sign + std::to_string(percent) + " Percent Done";
+}
+
+}  // namespace
+
+void SetToolsEnabled(bool enabled) {
+    Form1.NTool(button::kStop + kOverlayOffset).Face = {Picture::Traffic,
+                                                        enabled ? kGreenFace : kRedFace};
+    for (int i = 1; i <= 10; ++i) {
+        enableButton(i, enabled);
+        Form1.OptFrame(i).Enabled = enabled;
+    }
+    for (int i = button::kWavy; i <= button::kVolcano; ++i) {
+        enableButton(i, enabled);
+    }
+    Form1.MapView.Enabled = enabled;
+}
+
+void announceWork(const std::string& text, std::int32_t total) {
+    Form1.WorkWhat.Caption = text;
+    ProgressState = 1;
+    ProgressTotal = total;
+}
+
+void requestStop() {
+    StopFlag = 1;
+    Form1.Line1.Visible = false;
+}
+
+bool noteStop() {
+    if (StopFlag != 1) {
+        return false;
+    }
+    StopFlag = 2;
+    return true;
+}
+
+void showProgress() {
+    if (ProgressDone != ProgressShown) {
+        showBar();
+    }
+    if (ProgressState == 1 && Form1.Picture1.Visible) {
+        Form1.Picture1.Visible = false;
+        Form1.ProgressFrame.Visible = true;
+    }
+    if (ProgressState == 2 && !Form1.Picture1.Visible) {
+        Form1.Picture1.Visible = true;
+        Form1.ProgressFrame.Visible = false;
+        SetToolsEnabled(true);
+    }
+}
+
+void finishStop() {
+    if (StopFlag != 2) {
+        return;
+    }
+    SetToolsEnabled(true);
+    StopFlag = 0;
+    ProgressState = 2;
+    Form1.Line1.Visible = false;
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,35 @@
+// The protocol of long operations: a worker writes these values and yields; the window's timer
+// shows them, ends a stopped run and brings the desk back in order.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace ombrelia {
+
+extern std::int16_t StopFlag;       // 0 none, 1 asked for, 2 noted by the worker; commands, workers
+extern std::int16_t ProgressState;  // 0 before the first run, 1 running, 2 ended; workers, timer
+extern std::int32_t ProgressTotal;  // ProgressDone that means 100 percent; workers
+extern std::int32_t ProgressDone;   // position of the run; workers
+extern std::int32_t ProgressShown;  // ProgressDone last painted; timer
+
+// Enables or disables what could disturb a run, and sets the light: green when enabled, red when
+// not.
+void SetToolsEnabled(bool enabled);
+
+// Names the work in the panel, says that it runs and how far it goes.
+void announceWork(const std::string& text, std::int32_t total);
+
+// Asks the running operation to stop.
+void requestStop();
+
+// If a stop was asked for: notes it (StopFlag 2) and says true; the worker then returns at once.
+bool noteStop();
+
+// The timer's share: bar, percentage, and which panel shows.
+void showProgress();
+
+// The timer's share after a stop: tools, flag, state and marker line back in order.
+void finishStop();
+
+}  // namespace ombrelia

@@ -1,0 +1,98 @@
+#include "core/value_row.h"
+
+#include <charconv>
+#include <functional>
+#include <system_error>
+
+#include "platform/numeric.h"
+
+namespace ombrelia {
+
+namespace {
+
+// Calls visit with a typed reference to the element.
+template <typename Visit>
+auto withElement(ScalarKind kind, void* element, Visit visit) {
+    switch (kind) {
+        case ScalarKind::Int16:
+            return visit(*static_cast<std::int16_t*>(element));
+        case ScalarKind::Int32:
+            return visit(*static_cast<std::int32_t*>(element));
+        case ScalarKind::UInt32:
+            return visit(*static_cast<std::uint32_t*>(element));
+        case ScalarKind::Float:
+            return visit(*static_cast<float*>(element));
+        case ScalarKind::Double:
+            return visit(*static_cast<double*>(element));
+        default:
+            return visit(*static_cast<std::string*>(element));
+    }
+}
+
+template <typename T>
+std::string numberText(const T& number) {
+    std::array<char, 40> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    return {buffer.data(), end};
+}
+
+std::string numberText(const std::string& text) {
+    return text;
+}
+
+template <typename T>
+bool parseInto(T& number, const std::string& text) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc{} && end == text.data() + text.size();
+}
+
+bool parseInto(std::string& value, const std::string& text) {
+    value = text;
+    return true;
+}
+
+// Visits every element of the row, walking the subscripts from the given one on.
+void forEachElement(const ValueRow& row, char* element, int subscript,
+                    const std::function<void(void*)>& visit) {
+    if (subscript == row.subscripts) {
+        visit(element);
+        return;
+    }
+    const auto& range = row.ranges[static_cast<std::size_t>(subscript)];
+    for (int i = range.low; i <= range.high; ++i) {
+        forEachElement(row, element + (i - range.low) * range.strideBytes, subscript + 1, visit);
+    }
+}
+
+}  // namespace
+
+void* ValueRow::at(std::span<const int> indices) const {
+    if (indices.size() != static_cast<std::size_t>(subscripts)) {
+        return nullptr;
+    }
+    auto* element = static_cast<char*>(first);
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+        if (indices[i] < ranges[i].low || indices[i] > ranges[i].high) {
+            return nullptr;
+        }
+        element += (indices[i] - ranges[i].low) * ranges[i].strideBytes;
+    }
+    return element;
+}
+
+void ValueRow::reset() const {
+    forEachElement(*this, static_cast<char*>(first), 0, [this](void* element) {
+        withElement(kind, element, [](auto& value) { value = {}; });
+    });
+}
+
+std::string textOf(const ValueRow& row, const void* element) {
+    return withElement(row.kind, const_cast<void*>(element),
+                       [](auto& value) { return numberText(value); });
+}
+
+bool setFromText(const ValueRow& row, void* element, const std::string& text) {
+    return withElement(row.kind, element, [&](auto& value) { return parseInto(value, text); });
+}
+
+}  // namespace ombrelia

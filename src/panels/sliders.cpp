@@ -1,0 +1,146 @@
+#include "panels/sliders.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "core/color_ramp.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "platform/dispatch.h"
+#include "platform/numeric.h"
+#include "platform/window_life.h"
+
+namespace ombrelia {
+
+namespace {
+
+enum class Readout { Value, MetresOfAmount, MetresOfHeight };
+
+struct SliderStart {
+    int number;
+    std::int16_t min, max, start;
+    Readout readout;
+};
+
+constexpr SliderStart kSliders[] = {
+    {1, 1, 20, 1, Readout::Value},           {2, 1, 20, 1, Readout::Value},
+    {3, 1, 20, 10, Readout::MetresOfAmount}, {4, 1, 10, 4, Readout::Value},
+    {5, 1, 10, 1, Readout::Value},           {6, 50, 255, 255, Readout::MetresOfHeight},
+    {7, 1, 30, 1, Readout::Value},           {8, 5, 30, 5, Readout::Value},
+    {9, 1, 20, 1, Readout::Value},           {10, 20, 200, 60, Readout::MetresOfHeight},
+    {11, 1, 20, 4, Readout::MetresOfAmount}, {12, 2, 15, 3, Readout::Value},
+    {13, 3, 25, 10, Readout::Value},         {14, 1, 8, 5, Readout::Value},
+};
+
+constexpr int kRiverWidth = 12;
+constexpr int kBankWidth = 13;
+constexpr double kFramePitch = 128;
+
+const SliderStart& startOf(int slider) {
+    return kSliders[slider - kFirstSlider];
+}
+
+// Where the value lies between Min and Max, 0..1.
+double shareOf(const SliderRecord& record) {
+    return static_cast<double>(record.Value - record.Min) / (record.Max - record.Min);
+}
+
+void placeFrames() {
+    for (int j = 0; j < kOptionFrames; ++j) {
+        Form1.OptFrame(j).Top = kFramePitch * j - SliderValues(kStripSlider).Value;
+    }
+    refreshControl(Form1.Picture1);
+}
+
+void setAndPlace(int slider, int value) {
+    SliderValues(slider).Value = narrowTo<std::int16_t>(value);
+    PlaceSlider(slider);
+    showReadout(slider);
+}
+
+// The bank of a canyon is always wider than its river.
+void keepBankWider(int dragged) {
+    const int river = SliderValues(kRiverWidth).Value;
+    const int bank = SliderValues(kBankWidth).Value;
+    if (bank > river) {
+        return;
+    }
+    if (dragged == kRiverWidth) {
+        setAndPlace(kBankWidth, river + 1);
+    } else if (dragged == kBankWidth) {
+        setAndPlace(kRiverWidth, bank - 1);
+    }
+}
+
+}  // namespace
+
+void fillSliders() {
+    for (const SliderStart& row : kSliders) {
+        SliderValues(row.number) = {1, row.start, row.max, row.min};
+        PlaceSlider(row.number);
+        showReadout(row.number);
+    }
+}
+
+void PlaceSlider(int i) {
+    const SliderRecord& record = SliderValues(i);
+    if (record.Orientation == 1) {
+        Image& track = Form1.VertFiller(i);
+        Image& thumb = Form1.VertScroller(i);
+        if (track.Face.picture == Picture::None) {
+            track.Face = {Picture::SliderTrack, 0};
+        }
+        thumb.Left = shareOf(record) * (track.Width - thumb.Width) + track.Left;
+        refreshControl(thumb);
+        refreshControl(track);
+    } else {
+        Image& track = Form1.Filler(i);
+        Image& thumb = Form1.Scroller(i);
+        thumb.Top = shareOf(record) * (track.Height - thumb.Height) + track.Top;
+        refreshControl(thumb);
+        refreshControl(track);
+    }
+    if (i == kStripSlider) {
+        placeFrames();
+    }
+}
+
+void showReadout(int i) {
+    const int value = SliderValues(i).Value;
+    std::string& text = Form1.readout(i).Caption;
+    switch (startOf(i).readout) {
+        case Readout::Value:
+            text = std::to_string(value);
+            break;
+        case Readout::MetresOfAmount:
+            text = std::to_string(value * kMetresPerStep) + "m";
+            break;
+        case Readout::MetresOfHeight:
+            text = metresText(value);
+            break;
+    }
+}
+
+void beginThumbDrag(int i, float xTwips) {
+    ThumbGrab = roundToInt16(static_cast<double>(xTwips) / kTwipsPerPixel);
+    dragThumb(i, xTwips);
+}
+
+void dragThumb(int i, float xTwips) {
+    const Image& track = Form1.VertFiller(i);
+    Image& thumb = Form1.VertScroller(i);
+    const double x = static_cast<double>(xTwips) / kTwipsPerPixel;
+    const double along = thumb.Left - track.Left + x;
+    const double place = track.Left + along - ThumbGrab;
+    const double room = track.Width - thumb.Width;
+    thumb.Left = std::clamp(place, track.Left, track.Left + room);
+    SliderRecord& record = SliderValues(i);
+    record.Value =
+        floorToInt16((thumb.Left - track.Left) / room * (record.Max - record.Min) + record.Min);
+    showReadout(i);
+    keepBankWider(i);
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,87 @@
+#include "platform/binary_file.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/failure.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr mode_t kNewFileMode = 0666;
+
+}  // namespace
+
+BinaryFile::BinaryFile(std::string path) : path_(std::move(path)) {
+    handle_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
+    isNew_ = handle_ >= 0;
+    if (!isNew_ && errno == EEXIST) {
+        handle_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
+    }
+    if (handle_ < 0) {
+        fail(errno);
+    }
+    struct stat status {};
+    if (::fstat(handle_, &status) != 0) {
+        const int reason = errno;
+        ::close(std::exchange(handle_, -1));
+        fail(reason);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        ::close(std::exchange(handle_, -1));
+        throw FileFailure("saved", path_, "It is not an ordinary file");
+    }
+}
+
+BinaryFile::~BinaryFile() {
+    if (handle_ >= 0) {
+        ::close(handle_);
+    }
+}
+
+std::uint64_t BinaryFile::length() const {
+    struct stat status {};
+    if (::fstat(handle_, &status) != 0) {
+        fail(errno);
+    }
+    return static_cast<std::uint64_t>(status.st_size);
+}
+
+void BinaryFile::write(std::span<const std::uint8_t> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(handle_, bytes.data(), bytes.size());
+        if (written < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            fail(errno);
+        }
+        bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+}
+
+void BinaryFile::close() {
+    if (handle_ >= 0 && ::close(std::exchange(handle_, -1)) != 0 && errno != EINTR) {
+        fail(errno);
+    }
+}
+
+void BinaryFile::fail(int errorNumber) const {
+    throw FileFailure("saved", path_, std::strerror(errorNumber));
+}
+
+void undoCreation(const std::string& path, bool wasNew) {
+    if (wasNew) {
+        ::unlink(path.c_str());
+    } else if (::truncate(path.c_str(), 0) != 0) {
+        // Nothing more can be done; the failure that led here is reported.
+        return;
+    }
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,44 @@
+// A file opened for reading and writing of bytes, created if it is missing. Every failure is a
+// FileFailure with the file's name and the system's reason.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace ombrelia {
+
+class BinaryFile {
+  public:
+    // Opens, or creates, an ordinary file. Throws FileFailure for folders, pipes and devices too.
+    explicit BinaryFile(std::string path);
+    ~BinaryFile();
+    BinaryFile(const BinaryFile&) = delete;
+    BinaryFile& operator=(const BinaryFile&) = delete;
+
+    // Bytes in the file.
+    std::uint64_t length() const;
+
+    // Whether this opening created the file.
+    bool isNew() const { return isNew_; }
+
+    // Writes all bytes at the current place.
+    void write(std::span<const std::uint8_t> bytes);
+
+    // Closes; throws when the system reports a late failure. A second call does nothing.
+    void close();
+
+  private:
+    [[noreturn]] void fail(int errorNumber) const;
+
+    std::string path_;
+    int handle_ = -1;
+    bool isNew_ = false;
+};
+
+// Takes away what a failed save left: a file that it created is removed, one that was empty before
+// is empty again. Does nothing if that is impossible.
+void undoCreation(const std::string& path, bool wasNew);
+
+}  // namespace ombrelia

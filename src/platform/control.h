@@ -1,0 +1,215 @@
+// The parts of a window as plain records: what they look like, where they stand, what they do on an
+// event. The logic changes a field and goes on; a platform shows the difference. Positions and
+// sizes are in units (one pixel at scale 1), relative to the inner left top corner of what contains
+// them.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/color.h"
+#include "platform/failure.h"
+#include "platform/skin_pictures.h"
+#include "platform/surface.h"
+
+namespace ombrelia {
+
+struct Control;
+struct Window;
+
+enum class ControlKind { Window, Image, Label, PictureBox, Line, ListBox, Timer };
+
+enum class Event {
+    MouseDown,
+    MouseMove,
+    MouseUp,
+    Click,
+    DblClick,
+    DragOver,
+    DragDrop,
+    KeyDown,
+    Load,
+    Unload,
+    Timer,
+    Count
+};
+
+enum class MouseButton { None = 0, Left = 1, Right = 2, Middle = 4 };
+
+// What a handler is told. X and Y are in twips (15 a pixel) from the corner of an image or label,
+// in scale units for a picture surface, in pixels for a window.
+struct EventArgs {
+    Control* Source = nullptr;
+    int Index = -1;  // subscript of Source in its control array, -1 outside one
+    MouseButton Button = MouseButton::None;
+    float X = 0;
+    float Y = 0;
+    int KeyCode = 0;             // virtual key code; a handler may swallow the key with 0
+    Control* Dragged = nullptr;  // what is being dragged, for DragOver and DragDrop
+};
+
+using Handler = void (*)(EventArgs&);
+
+// One face of a stored picture.
+struct PictureFace {
+    Picture picture = Picture::None;
+    int face = 0;
+
+    bool operator==(const PictureFace&) const = default;
+};
+
+// Fields that every part has.
+struct Control {
+    ControlKind Kind = ControlKind::Image;
+    std::string Name;
+    int Index = -1;
+    Control* Parent = nullptr;  // the window itself, or a picture box
+    Window* Owner = nullptr;
+
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+    bool Visible = true;
+    bool Enabled = true;
+    std::string Caption;         // text of a label or list; "&&" shows as one "&"
+    std::string AccessibleName;  // what assistive technology calls it; empty: the caption
+    PictureFace Face;            // stretched over the control
+
+    std::array<Handler, static_cast<std::size_t>(Event::Count)> On{};
+
+    Handler handlerOf(Event event) const { return On[static_cast<std::size_t>(event)]; }
+
+  protected:
+    explicit Control(ControlKind kind) : Kind(kind) {}
+};
+
+struct Image : Control {
+    Image() : Control(ControlKind::Image) {}
+};
+
+enum class TextAlign { Left, Center, Right };
+
+struct Label : Control {
+    Label() : Control(ControlKind::Label) {}
+    Color ForeColor = rgb(255, 255, 255);
+    double FontSize = 11;  // height of the letters' box in units
+    bool Bold = false;
+    bool Underline = false;
+    bool WordWrap = false;
+    TextAlign Align = TextAlign::Left;
+    bool Opaque = false;  // fills its ground with BackColor
+    Color BackColor = rgb(0, 0, 0);
+};
+
+// A surface that can be drawn on and can contain other parts. One that is never drawn on takes no
+// memory for an image.
+struct PictureBox : Control {
+    PictureBox() : Control(ControlKind::PictureBox) {}
+    Surface Canvas;
+    double Border = 0;    // width of a frame inside the control, around its inner area
+    bool Opaque = false;  // fills its ground with BackColor where nothing is drawn
+    Color BackColor = rgb(0, 0, 0);
+
+    double innerWidth() const { return Width - 2 * Border; }
+    double innerHeight() const { return Height - 2 * Border; }
+
+    // Gives the surface an image of the inner size, one scale unit a pixel.
+    void makeCanvas() {
+        Canvas.setSize(static_cast<int>(innerWidth()), static_cast<int>(innerHeight()));
+    }
+};
+
+struct Line : Control {
+    Line() : Control(ControlKind::Line) {}
+    double X1 = 0;
+    double Y1 = 0;
+    double X2 = 0;
+    double Y2 = 0;
+    int BorderWidth = 1;  // in pixels of the containing surface, or units
+    Color BorderColor = rgb(0, 0, 0);
+};
+
+// A drop-down list; Caption is the text that it shows.
+struct ListBox : Control {
+    ListBox() : Control(ControlKind::ListBox) {}
+    std::vector<std::string> List;
+    int ListIndex = -1;
+};
+
+struct Timer : Control {
+    Timer() : Control(ControlKind::Timer) {}
+    int Interval = 0;  // milliseconds
+};
+
+// A window without a system frame. Left and Top are the place of its corner on the screen in units
+// of the scale in force.
+struct Window : Control {
+    Window() : Control(ControlKind::Window) { Visible = false; }
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    bool Loaded = false;
+    bool Minimized = false;
+    std::vector<Control*> Controls;  // bottom to top; containers before what they contain
+
+    // The pointer's last known place in this window, client pixels.
+    double PointerX = -1;
+    double PointerY = -1;
+
+    // The window against whose right edge this one stands and with which it is seen; or none.
+    Window* DockedTo = nullptr;
+
+    // Sets every control to its designed state; called at each load.
+    void (*Design)() = nullptr;
+};
+
+// Controls of one name told apart by a subscript; not every subscript need be there.
+template <typename T>
+class ControlArray {
+  public:
+    // Throws MissingPartFailure for a subscript that has no control.
+    T& operator()(int index) {
+        if (!has(index)) {
+            throw MissingPartFailure("control", index);
+        }
+        return *items_[static_cast<std::size_t>(index)];
+    }
+
+    bool has(int index) const {
+        return index >= 0 && static_cast<std::size_t>(index) < items_.size() &&
+               items_[static_cast<std::size_t>(index)] != nullptr;
+    }
+
+    // The control with this subscript, made if it is missing.
+    T& make(int index) {
+        if (static_cast<std::size_t>(index) >= items_.size()) {
+            items_.resize(static_cast<std::size_t>(index) + 1);
+        }
+        auto& item = items_[static_cast<std::size_t>(index)];
+        if (item == nullptr) {
+            item = std::make_unique<T>();
+            item->Index = index;
+        }
+        return *item;
+    }
+
+    // Every control that is there, in the order of subscripts.
+    template <typename Visit>
+    void forEach(Visit visit) {
+        for (auto& item : items_) {
+            if (item != nullptr) {
+                visit(*item);
+            }
+        }
+    }
+
+  private:
+    std::vector<std::unique_ptr<T>> items_;
+};
+
+}  // namespace ombrelia

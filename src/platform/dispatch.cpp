@@ -1,0 +1,205 @@
+#include "platform/dispatch.h"
+
+#include <map>
+#include <utility>
+
+#include "platform/services.h"
+#include "platform/window_life.h"
+
+namespace ombrelia {
+
+namespace {
+
+// The running handlers and what waits for them. Written here alone.
+struct DispatchState {
+    int depth = 0;                                // handlers on the stack
+    long yields = 0;                              // yields since the process began
+    std::map<int, std::function<void()>> putOff;  // by kind
+};
+DispatchState state;
+void (*stopRequest)() = nullptr;  // bound once
+
+// Keys below 0 are kept for closing a window; callers of putOff use 0 and above.
+constexpr int kCloseKey = -1;
+
+struct DepthGuard {
+    DepthGuard() { ++state.depth; }
+    ~DepthGuard() { --state.depth; }
+    DepthGuard(const DepthGuard&) = delete;
+    DepthGuard& operator=(const DepthGuard&) = delete;
+};
+
+void runGuarded(const std::function<void()>& work) {
+    const DepthGuard guard;
+    try {
+        work();
+    } catch (const Failure& failure) {
+        services().failures->failed(failure.what());
+    }
+}
+
+double scaled(double pixel, float scaleLength, double length, float scaleStart) {
+    return length > 0 ? pixel * scaleLength / length + scaleStart : pixel;
+}
+
+// The place in the units in which this control's events arrive.
+void placeIn(const Control& control, double x, double y, EventArgs& args) {
+    if (control.Kind == ControlKind::PictureBox) {
+        const auto& box = static_cast<const PictureBox&>(control);
+        if (box.Canvas.width() > 0) {
+            x = scaled(x, box.Canvas.ScaleWidth, box.innerWidth(), box.Canvas.ScaleLeft);
+            y = scaled(y, box.Canvas.ScaleHeight, box.innerHeight(), box.Canvas.ScaleTop);
+        }
+    } else if (control.Kind != ControlKind::Window) {
+        x *= kTwipsPerPixel;
+        y *= kTwipsPerPixel;
+    }
+    args.X = static_cast<float>(x);
+    args.Y = static_cast<float>(y);
+}
+
+bool takesMouse(const Control& control) {
+    return control.Kind == ControlKind::Image || control.Kind == ControlKind::Label ||
+           control.Kind == ControlKind::PictureBox || control.Kind == ControlKind::ListBox;
+}
+
+}  // namespace
+
+void raise(Control& control, Event event, EventArgs& args) {
+    const Handler handler = control.handlerOf(event);
+    if (handler == nullptr) {
+        return;
+    }
+    args.Source = &control;
+    args.Index = control.Index;
+    handler(args);
+}
+
+void raise(Control& control, Event event) {
+    EventArgs args;
+    raise(control, event, args);
+}
+
+void runHandler(const std::function<void()>& work) {
+    runGuarded(work);
+    while (state.depth == 0 && !state.putOff.empty()) {
+        auto first = state.putOff.extract(state.putOff.begin());
+        runGuarded(first.mapped());
+    }
+}
+
+void deliver(Control& control, Event event, EventArgs args) {
+    if (control.handlerOf(event) == nullptr) {
+        return;
+    }
+    runHandler([&] { raise(control, event, args); });
+}
+
+void deliverMouse(Control& control, Event event, MouseButton button, double x, double y) {
+    Window& window = *control.Owner;
+    const Point corner = cornerInWindow(control);
+    window.PointerX = corner.x + x;
+    window.PointerY = corner.y + y;
+    if (!isEnabled(control)) {
+        return;
+    }
+    EventArgs args;
+    args.Button = button;
+    placeIn(control, x, y, args);
+    deliver(control, event, args);
+}
+
+void deliverClose(Window& window) {
+    if (state.depth > 0) {
+        putOff(kCloseKey, [&window] { unloadWindow(window); });
+        return;
+    }
+    runHandler([&window] { unloadWindow(window); });
+}
+
+bool isNested() {
+    return state.depth > 1;
+}
+
+void putOff(int key, std::function<void()> action) {
+    state.putOff[key] = std::move(action);
+    if (stopRequest != nullptr) {
+        stopRequest();
+    }
+}
+
+void setStopRequest(void (*request)()) {
+    stopRequest = request;
+}
+
+void yieldToEvents() {
+    ++state.yields;
+    services().desktop->yield();
+}
+
+long yieldCount() {
+    return state.yields;
+}
+
+void resetDispatch() {
+    state = {};
+}
+
+bool isEnabled(const Control& control) {
+    for (const Control* part = &control; part != nullptr; part = part->Parent) {
+        if (!part->Enabled) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool isShown(const Control& control) {
+    for (const Control* part = &control; part != nullptr; part = part->Parent) {
+        if (!part->Visible) {
+            return false;
+        }
+    }
+    return true;
+}
+
+namespace {
+double borderOf(const Control& control) {
+    return control.Kind == ControlKind::PictureBox ? static_cast<const PictureBox&>(control).Border
+                                                   : 0.0;
+}
+}  // namespace
+
+Point cornerInWindow(const Control& control) {
+    Point corner{0, 0};
+    for (const Control* part = &control; part != nullptr && part->Kind != ControlKind::Window;
+         part = part->Parent) {
+        corner.x += part->Left + borderOf(*part);
+        corner.y += part->Top + borderOf(*part);
+    }
+    return corner;
+}
+
+Control& controlAt(Window& window, double x, double y) {
+    for (auto it = window.Controls.rbegin(); it != window.Controls.rend(); ++it) {
+        Control& control = **it;
+        if (!takesMouse(control)) {
+            continue;
+        }
+        // A part is cut off at the edges of all that contain it.
+        bool inside = true;
+        for (const Control* part = &control;
+             inside && part != nullptr && part->Kind != ControlKind::Window; part = part->Parent) {
+            const Point corner = cornerInWindow(*part);
+            const double border = borderOf(*part);
+            inside = part->Visible && x >= corner.x - border && y >= corner.y - border &&
+                     x < corner.x - border + part->Width && y < corner.y - border + part->Height;
+        }
+        if (inside) {
+            return control;
+        }
+    }
+    return window;
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,45 @@
+// Run-time failures: what ends the handler in which it happens. Thrown once, caught where events
+// are delivered, worded in messages.cpp.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace ombrelia {
+
+// The root of all failures; what() is one plain sentence for the user.
+class Failure : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// A subscript outside its array.
+class SubscriptFailure : public Failure {
+  public:
+    // low..high is the range that index should have lain in.
+    SubscriptFailure(long index, long low, long high);
+};
+
+// A number that does not fit its 16 or 32 bits.
+class OverflowFailure : public Failure {
+  public:
+    OverflowFailure(double value, int bits);
+};
+
+// A button, face or other part that is asked for by a number that it does not have.
+class MissingPartFailure : public Failure {
+  public:
+    MissingPartFailure(const std::string& what, int index);
+};
+
+// A file that cannot be opened, read or written.
+class FileFailure : public Failure {
+  public:
+    // action: "saved" or "read"; reason: the system's own words for errorNumber.
+    FileFailure(const std::string& action, const std::string& path, const std::string& reason);
+};
+
+// Thrown by endProcess() so that nothing behind it runs; reaches the event loop, which ends.
+struct ProcessEnd {};
+
+}  // namespace ombrelia

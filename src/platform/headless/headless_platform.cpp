@@ -1,0 +1,154 @@
+#include "platform/headless/headless_platform.h"
+
+#include "platform/control.h"
+#include "platform/dispatch.h"
+
+namespace ombrelia {
+
+namespace {
+
+template <typename T>
+T takeFirst(std::deque<T>& queue, T ifEmpty) {
+    if (queue.empty()) {
+        return ifEmpty;
+    }
+    T first = queue.front();
+    queue.pop_front();
+    return first;
+}
+
+// Line ends written as two letters, so that a call stays one line.
+std::string onOneLine(const std::string& text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\n') {
+            line += "\\n";
+        } else if (c == '\r') {
+            line += "\\r";
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
+}  // namespace
+
+void HeadlessPlatform::install() {
+    services() = {this, this, this, this, this, this};
+    resetDispatch();
+}
+
+void HeadlessPlatform::restart() {
+    HasEnded = false;
+    resetDispatch();
+}
+
+void HeadlessPlatform::log(const std::string& call) {
+    Calls.push_back(onOneLine(call));
+}
+
+std::string HeadlessPlatform::askSaveFile(const std::string& title, const std::string& filter) {
+    log("save " + title + " | " + filter);
+    return takeFirst(SaveAnswers, std::string());
+}
+
+int HeadlessPlatform::message(const std::string& text, int style, const std::string& title) {
+    log("message " + std::to_string(style) + " " + title + " | " + text);
+    return takeFirst(MessageAnswers, kAnswerNo);
+}
+
+std::string HeadlessPlatform::read(const std::string& section, const std::string& key,
+                                   const std::string& ifMissing) {
+    const auto found = Settings.find(section);
+    if (found == Settings.end()) {
+        return ifMissing;
+    }
+    const auto value = found->second.find(key);
+    return value == found->second.end() ? ifMissing : value->second;
+}
+
+void HeadlessPlatform::write(const std::string& section, const std::string& key,
+                             const std::string& value) {
+    Settings[section][key] = value;
+}
+
+std::vector<std::pair<std::string, std::string>> HeadlessPlatform::enumerate(
+    const std::string& section) {
+    const auto found = Settings.find(section);
+    if (found == Settings.end()) {
+        return {};
+    }
+    return {found->second.begin(), found->second.end()};
+}
+
+double HeadlessPlatform::secondsSinceMidnight() {
+    const double now = Seconds;
+    Seconds += SecondsPerReading;
+    return now;
+}
+
+void HeadlessPlatform::seedFromClock() {}
+
+void HeadlessPlatform::draw(std::span<float> draws) {
+    constexpr float kFull = 16777216.0F;  // 2^24
+    for (float& value : draws) {
+        if (!RandomQueue.empty()) {
+            value = takeFirst(RandomQueue, 0.0F);
+        } else if (RandomState) {
+            *RandomState = *RandomState * 1664525U + 1013904223U;
+            value = static_cast<float>(*RandomState >> 8U) / kFull;
+        } else {
+            throw NoDrawLeft{};
+        }
+        ++Draws;
+    }
+}
+
+void HeadlessPlatform::shown(Window& window) {
+    log("show " + window.Name);
+}
+
+void HeadlessPlatform::hidden(Window& window) {
+    log("hide " + window.Name);
+}
+
+void HeadlessPlatform::unloaded(Window& window) {
+    log("unload " + window.Name);
+}
+
+void HeadlessPlatform::minimize(Window& window) {
+    log("minimize " + window.Name);
+}
+
+void HeadlessPlatform::refresh(Control& /*control*/) {}
+
+void HeadlessPlatform::yield() {
+    if (OnYield) {
+        OnYield();
+    }
+}
+
+void HeadlessPlatform::beginWindowMove(Window& /*window*/) {}
+
+std::string HeadlessPlatform::activeWindowCaption() {
+    return ActiveCaption;
+}
+
+void HeadlessPlatform::openWebPage(const std::string& /*address*/) {
+    log("web");
+}
+
+void HeadlessPlatform::end() {
+    HasEnded = true;
+    log("end");
+}
+
+void HeadlessPlatform::failed(const std::string& sentence) {
+    Failures.push_back(sentence);
+    if (ThrowOnFailure) {
+        throw HandlerFailed{sentence};
+    }
+}
+
+}  // namespace ombrelia

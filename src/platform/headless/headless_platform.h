@@ -1,0 +1,93 @@
+// The platform for tests and scenarios: queues of answers, a log of what was asked, no screen.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/services.h"
+
+namespace ombrelia {
+
+// A draw was asked for that no queue and no generator answers.
+struct NoDrawLeft {};
+
+// A run-time failure that reached the top of an event handler.
+struct HandlerFailed {
+    std::string sentence;
+};
+
+class HeadlessPlatform : public Dialogs,
+                         public SettingsStore,
+                         public Clock,
+                         public RandomSource,
+                         public Desktop,
+                         public FailureReport {
+  public:
+    // Puts this platform's services in force.
+    void install();
+
+    // What a new process starts with; the settings stay.
+    void restart();
+
+    // Answers, taken from the front; an empty queue is Cancel, or No.
+    std::deque<std::string> SaveAnswers;
+    std::deque<int> MessageAnswers;
+
+    // Random floats: the queue first, then the generator x * 1664525 + 1013904223 if it is seeded.
+    std::deque<float> RandomQueue;
+    std::optional<std::uint32_t> RandomState;
+    long Draws = 0;
+
+    // Clock: seconds since midnight and what each reading adds.
+    double Seconds = 43200;
+    double SecondsPerReading = 0;
+
+    // Called inside each yield.
+    std::function<void()> OnYield;
+
+    // Requests in order, as `dump calls` writes them.
+    std::vector<std::string> Calls;
+    bool HasEnded = false;
+
+    // Section, then key, then value.
+    std::map<std::string, std::map<std::string, std::string>> Settings;
+
+    // Sentences of failures; with ThrowOnFailure the first one ends the event instead.
+    std::vector<std::string> Failures;
+    bool ThrowOnFailure = false;
+
+    // Caption that activeWindowCaption gives.
+    std::string ActiveCaption = "Ombrelia Terrain Editor";
+
+    std::string askSaveFile(const std::string& title, const std::string& filter) override;
+    int message(const std::string& text, int style, const std::string& title) override;
+    std::string read(const std::string& section, const std::string& key,
+                     const std::string& ifMissing) override;
+    void write(const std::string& section, const std::string& key,
+               const std::string& value) override;
+    std::vector<std::pair<std::string, std::string>> enumerate(const std::string& section) override;
+    double secondsSinceMidnight() override;
+    void seedFromClock() override;
+    void draw(std::span<float> draws) override;
+    void shown(Window& window) override;
+    void hidden(Window& window) override;
+    void unloaded(Window& window) override;
+    void minimize(Window& window) override;
+    void refresh(Control& control) override;
+    void yield() override;
+    void beginWindowMove(Window& window) override;
+    std::string activeWindowCaption() override;
+    void openWebPage(const std::string& address) override;
+    void end() override;
+    void failed(const std::string& sentence) override;
+
+  private:
+    void log(const std::string& call);
+};
+
+}  // namespace ombrelia

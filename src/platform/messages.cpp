@@ -1,0 +1,45 @@
+#include "platform/messages.h"
+
+#include "platform/failure.h"
+
+namespace ombrelia {
+
+namespace messages {
+
+std::string subscriptOutside(long index, long low, long high) {
+    return "This step could not be finished: place " + std::to_string(index) + " lies outside " +
+           std::to_string(low) + " to " + std::to_string(high) + ". The map is as it was left.";
+}
+
+std::string numberTooLarge(double value, int bits) {
+    return "This step could not be finished: the number " + std::to_string(value) +
+           " does not fit " + std::to_string(bits) + " bits. The map is as it was left.";
+}
+
+std::string missingPart(const std::string& what, int index) {
+    return "This step could not be finished: there is no " + what + " with the number " +
+           std::to_string(index) + ".";
+}
+
+std::string fileFailed(const std::string& action, const std::string& path,
+                       const std::string& reason) {
+    return "The file \"" + path + "\" could not be " + action + ": " + reason +
+           ". The map is unharmed.";
+}
+
+}  // namespace messages
+
+SubscriptFailure::SubscriptFailure(long index, long low, long high)
+    : Failure(messages::subscriptOutside(index, low, high)) {}
+
+OverflowFailure::OverflowFailure(double value, int bits)
+    : Failure(messages::numberTooLarge(value, bits)) {}
+
+MissingPartFailure::MissingPartFailure(const std::string& what, int index)
+    : Failure(messages::missingPart(what, index)) {}
+
+FileFailure::FileFailure(const std::string& action, const std::string& path,
+                         const std::string& reason)
+    : Failure(messages::fileFailed(action, path, reason)) {}
+
+}  // namespace ombrelia

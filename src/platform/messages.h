@@ -1,0 +1,22 @@
+// Every sentence that a message box of the program can show, as functions with named arguments.
+#pragma once
+
+#include <string>
+
+namespace ombrelia::messages {
+
+std::string subscriptOutside(long index, long low, long high);
+std::string numberTooLarge(double value, int bits);
+std::string missingPart(const std::string& what, int index);
+
+// action: "saved" or "read". Says too that the map is unharmed.
+std::string fileFailed(const std::string& action, const std::string& path,
+                       const std::string& reason);
+
+// The questions of the editor, as they stand.
+inline constexpr const char* kNewMapQuestion = "Are you sure you want to start a new map?";
+inline constexpr const char* kNewMapTitle = "Start New Map?";
+inline constexpr const char* kExitQuestion = "Are you sure you want to Exit?";
+inline constexpr const char* kExitTitle = "Exit?";
+
+}  // namespace ombrelia::messages

@@ -1,0 +1,100 @@
+// What the logic asks of the world, one small interface each. The real ones are thin over the
+// toolkit, the headless ones are queues and logs.
+#pragma once
+
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/color.h"
+
+namespace ombrelia {
+
+struct Control;
+struct Window;
+
+// Styles of a message box, as one number: buttons + icon + default button.
+inline constexpr int kYesNoStopSecondDefault = 276;
+inline constexpr int kErrorBox = 16;
+inline constexpr int kAnswerYes = 6;
+inline constexpr int kAnswerNo = 7;
+inline constexpr int kAnswerOk = 1;
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    // The chosen path, empty when cancelled. filter: "Name|pattern|Name|pattern".
+    virtual std::string askSaveFile(const std::string& title, const std::string& filter) = 0;
+    // kAnswerYes, kAnswerNo or kAnswerOk.
+    virtual int message(const std::string& text, int style, const std::string& title) = 0;
+};
+
+// String values addressed by section and key; safe for any text in both.
+class SettingsStore {
+  public:
+    virtual ~SettingsStore() = default;
+    virtual std::string read(const std::string& section, const std::string& key,
+                             const std::string& ifMissing) = 0;
+    virtual void write(const std::string& section, const std::string& key,
+                       const std::string& value) = 0;
+    // Keys and values of a section, sorted by key.
+    virtual std::vector<std::pair<std::string, std::string>> enumerate(
+        const std::string& section) = 0;
+};
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    virtual double secondsSinceMidnight() = 0;
+};
+
+class RandomSource {
+  public:
+    virtual ~RandomSource() = default;
+    virtual void seedFromClock() = 0;
+    // Fills draws with uniform random floats in [0, 1), in order.
+    virtual void draw(std::span<float> draws) = 0;
+};
+
+// Windows on the screen, the event loop, and what hangs on them.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+    virtual void shown(Window& window) = 0;
+    virtual void hidden(Window& window) = 0;
+    virtual void unloaded(Window& window) = 0;
+    virtual void minimize(Window& window) = 0;
+    // Shows what was drawn or changed so far; a platform may gather refreshes.
+    virtual void refresh(Control& control) = 0;
+    // Lets waiting events and timers run.
+    virtual void yield() = 0;
+    // Lets the user move the window by the press that is being handled.
+    virtual void beginWindowMove(Window& window) = 0;
+    // Caption of this program's active window; empty if another program's is active.
+    virtual std::string activeWindowCaption() = 0;
+    virtual void openWebPage(const std::string& address) = 0;
+    // Called once when the process is to end; nothing of the logic runs afterwards.
+    virtual void end() = 0;
+};
+
+// Reports what ended a handler; the editor goes on afterwards.
+class FailureReport {
+  public:
+    virtual ~FailureReport() = default;
+    virtual void failed(const std::string& sentence) = 0;
+};
+
+// The services in force. Set once by the program's or a test's main function.
+struct Services {
+    Dialogs* dialogs = nullptr;
+    SettingsStore* settings = nullptr;
+    Clock* clock = nullptr;
+    RandomSource* random = nullptr;
+    Desktop* desktop = nullptr;
+    FailureReport* failures = nullptr;
+};
+
+Services& services();
+
+}  // namespace ombrelia

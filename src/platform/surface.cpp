@@ -1,0 +1,176 @@
+#include "platform/surface.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/numeric.h"
+
+namespace ombrelia {
+
+void Surface::setSize(int width, int height) {
+    width_ = std::max(0, width);
+    height_ = std::max(0, height);
+    ScaleLeft = 0;
+    ScaleTop = 0;
+    ScaleWidth = static_cast<float>(width_);
+    ScaleHeight = static_cast<float>(height_);
+    pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+    clear();
+}
+
+void Surface::clear() {
+    std::fill(pixels_.begin(), pixels_.end(), pixelOf(Background));
+    changed();
+}
+
+Pixel* Surface::row(int y) {
+    return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
+}
+
+const Pixel* Surface::row(int y) const {
+    return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
+}
+
+void Surface::setPixel(int x, int y, Color color) {
+    if (x < 0 || y < 0 || x >= width_ || y >= height_) {
+        return;
+    }
+    row(y)[x] = pixelOf(color);
+    changed();
+}
+
+std::int32_t Surface::pixelAt(int x, int y) const {
+    if (x < 0 || y < 0 || x >= width_ || y >= height_) {
+        return -1;
+    }
+    return static_cast<std::int32_t>(colorOf(row(y)[x]));
+}
+
+void Surface::dot(double u, double v, Color color) {
+    const std::int64_t x = roundToEven(pixelX(u));
+    const std::int64_t y = roundToEven(pixelY(v));
+    fillPixels(x, y, x, y, color);
+}
+
+void Surface::box(double u1, double v1, double u2, double v2, Color color) {
+    const auto [left, right] = std::minmax({roundToEven(pixelX(u1)), roundToEven(pixelX(u2))});
+    const auto [top, bottom] = std::minmax({roundToEven(pixelY(v1)), roundToEven(pixelY(v2))});
+    fillPixels(left, top, right, bottom, color);
+}
+
+void Surface::fillPixels(std::int64_t left, std::int64_t top, std::int64_t right,
+                         std::int64_t bottom, Color color) {
+    const int x1 = static_cast<int>(std::max<std::int64_t>(left, 0));
+    const int x2 = static_cast<int>(std::min<std::int64_t>(right, width_ - 1));
+    const int y1 = static_cast<int>(std::max<std::int64_t>(top, 0));
+    const int y2 = static_cast<int>(std::min<std::int64_t>(bottom, height_ - 1));
+    if (x1 > x2) {
+        return;
+    }
+    const Pixel pixel = pixelOf(color);
+    for (int y = y1; y <= y2; ++y) {
+        std::fill(row(y) + x1, row(y) + x2 + 1, pixel);
+    }
+    changed();
+}
+
+void Surface::line(double u1, double v1, double u2, double v2, Color color) {
+    const std::int64_t x1 = roundToEven(pixelX(u1));
+    const std::int64_t y1 = roundToEven(pixelY(v1));
+    const std::int64_t x2 = roundToEven(pixelX(u2));
+    const std::int64_t y2 = roundToEven(pixelY(v2));
+    const std::int64_t before = (DrawWidth - 1) / 2;
+    const std::int64_t after = DrawWidth - 1 - before;
+    const bool isSteep = std::llabs(y2 - y1) > std::llabs(x2 - x1);
+    const std::int64_t steps = std::max(std::llabs(x2 - x1), std::llabs(y2 - y1));
+    for (std::int64_t i = 0; i <= steps; ++i) {
+        // Nearest pixel of the ideal line, halves away from the first end.
+        const std::int64_t x =
+            steps == 0 ? x1 : x1 + (2 * i * (x2 - x1) + (x2 < x1 ? -steps : steps)) / (2 * steps);
+        const std::int64_t y =
+            steps == 0 ? y1 : y1 + (2 * i * (y2 - y1) + (y2 < y1 ? -steps : steps)) / (2 * steps);
+        if (isSteep) {
+            fillPixels(x - before, y, x + after, y, color);
+        } else {
+            fillPixels(x, y - before, x, y + after, color);
+        }
+    }
+}
+
+namespace {
+
+// Source pixel under the centre of target pixel number i; may lie outside the source.
+std::int32_t sourceIndex(int i, double targetStart, double targetLength, double sourceStart,
+                         double sourceLength) {
+    const double share = (i + 0.5 - targetStart) / targetLength;
+    const double place = std::floor(sourceStart + share * sourceLength);
+    return static_cast<std::int32_t>(std::clamp(place, -1.0, 1.0e6));
+}
+
+// First and one-past-last pixel whose centre lies in start..start + length, cut to 0..size.
+struct PixelSpan {
+    int first, end;
+};
+PixelSpan pixelsInside(double start, double length, int size) {
+    const auto cut = [size](double edge) {
+        return static_cast<int>(std::clamp(std::ceil(edge - 0.5), 0.0, static_cast<double>(size)));
+    };
+    return {cut(start), cut(start + length)};
+}
+
+// Copies one row through the column table; whole runs at once where the columns follow each other.
+void copyRow(Pixel* to, const Pixel* from, int fromWidth, const std::int32_t* columns, int count) {
+    if (count > 0 && columns[0] >= 0 && columns[count - 1] < fromWidth) {
+        if (columns[count - 1] - columns[0] == count - 1) {
+            std::memcpy(to, from + columns[0], static_cast<std::size_t>(count) * sizeof(Pixel));
+        } else if (columns[0] == columns[count - 1]) {
+            std::fill(to, to + count, from[columns[0]]);
+        } else {
+            for (int i = 0; i < count; ++i) {
+                to[i] = from[columns[i]];
+            }
+        }
+        return;
+    }
+    for (int i = 0; i < count; ++i) {
+        if (columns[i] >= 0 && columns[i] < fromWidth) {
+            to[i] = from[columns[i]];
+        }
+    }
+}
+
+}  // namespace
+
+void Surface::stretchedCopy(const Surface& source, const Area& to, const Area& from) {
+    const double toX = pixelX(to.x);
+    const double toY = pixelY(to.y);
+    const double toWidth = to.width * width_ / ScaleWidth;
+    const double toHeight = to.height * height_ / ScaleHeight;
+    const double fromX = source.pixelX(from.x);
+    const double fromY = source.pixelY(from.y);
+    const double fromWidth = from.width * source.width_ / source.ScaleWidth;
+    const double fromHeight = from.height * source.height_ / source.ScaleHeight;
+    const PixelSpan across = pixelsInside(toX, toWidth, width_);
+    const PixelSpan down = pixelsInside(toY, toHeight, height_);
+    const int count = across.end - across.first;
+    if (count <= 0 || down.end <= down.first) {
+        return;
+    }
+    sourceColumns_.resize(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        sourceColumns_[static_cast<std::size_t>(i)] =
+            sourceIndex(across.first + i, toX, toWidth, fromX, fromWidth);
+    }
+    for (int y = down.first; y < down.end; ++y) {
+        const std::int32_t sourceY = sourceIndex(y, toY, toHeight, fromY, fromHeight);
+        if (sourceY >= 0 && sourceY < source.height_) {
+            copyRow(row(y) + across.first, source.row(sourceY), source.width_,
+                    sourceColumns_.data(), count);
+        }
+    }
+    changed();
+}
+
+}  // namespace ombrelia

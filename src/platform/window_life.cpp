@@ -1,0 +1,60 @@
+#include "platform/window_life.h"
+
+#include "platform/dispatch.h"
+#include "platform/services.h"
+
+namespace ombrelia {
+
+void loadWindow(Window& window) {
+    if (window.Loaded) {
+        return;
+    }
+    window.Loaded = true;
+    window.Visible = false;
+    window.Minimized = false;
+    if (window.Design != nullptr) {
+        window.Design();
+    }
+    raise(window, Event::Load);
+}
+
+void showWindow(Window& window) {
+    loadWindow(window);
+    window.Visible = true;
+    window.Minimized = false;
+    services().desktop->shown(window);
+}
+
+void hideWindow(Window& window) {
+    if (!window.Loaded || !window.Visible) {
+        return;
+    }
+    window.Visible = false;
+    services().desktop->hidden(window);
+}
+
+void unloadWindow(Window& window) {
+    if (!window.Loaded) {
+        return;
+    }
+    raise(window, Event::Unload);
+    window.Loaded = false;
+    window.Visible = false;
+    services().desktop->unloaded(window);
+}
+
+void minimizeWindow(Window& window) {
+    window.Minimized = true;
+    services().desktop->minimize(window);
+}
+
+void refreshControl(Control& control) {
+    services().desktop->refresh(control);
+}
+
+void endProcess() {
+    services().desktop->end();
+    throw ProcessEnd{};
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,28 @@
+// Loading, showing, hiding and unloading of windows; the same on every platform.
+#pragma once
+
+#include "platform/control.h"
+
+namespace ombrelia {
+
+// Brings the window to its designed state and raises Load; nothing if it is loaded already.
+void loadWindow(Window& window);
+
+// Loads the window if need be and shows it.
+void showWindow(Window& window);
+
+// Takes the window off the screen; it stays loaded.
+void hideWindow(Window& window);
+
+// Raises Unload and takes the window away; nothing if it is not loaded.
+void unloadWindow(Window& window);
+
+void minimizeWindow(Window& window);
+
+// Shows what was drawn so far on the control's window.
+void refreshControl(Control& control);
+
+// Ends the process: nothing behind this call runs.
+[[noreturn]] void endProcess();
+
+}  // namespace ombrelia

@@ -1,0 +1,30 @@
+// The lattice of the fractal generator: a diamond-square midpoint displacement with uneven
+// averages.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace ombrelia {
+
+// Average for the middle of a square at (i, j); corners stand s away; S points a row. The lower
+// left corner counts twice and the lower right one never.
+double AverageSquareCorners(int i, int j, int s, int S, const double* v);
+
+// Average for the middle of a diamond at (i, j); E = S - 1 is the lattice's last subscript.
+double AverageDiamondNeighbours(int i, int j, int s, int S, int E, const double* v);
+
+// Fills the lattice of cells + 1 points a side, level by level. seed is not used. h: decay of the
+// noise, 0.1..2.0. Yields after each row; returns early, values as they are, when StopFlag is 1.
+void FillFractalValues(std::vector<double>& values, std::int16_t cells, std::int32_t seed,
+                       double heightScale, double h);
+
+// Maps the lattice to bytes 102..230 around its mean; yields after each row. False if it was
+// stopped.
+bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
+                          std::vector<std::uint8_t>& bytes);
+
+// Puts "Generating Fractal Part part/parts" into the progress panel.
+void announceFractalPart(int part, std::int32_t total);
+
+}  // namespace ombrelia

@@ -1,0 +1,197 @@
+#include "terrain/fractal/fractal_terrain.h"
+
+#include <array>
+#include <cmath>
+
+#include "core/button_numbers.h"
+#include "core/buttons.h"
+#include "core/objects.h"
+#include "core/progress.h"
+#include "platform/dispatch.h"
+#include "platform/numeric.h"
+#include "platform/services.h"
+#include "terrain/fractal/fractal_lattice.h"
+#include "terrain/fractal/fractal_state.h"
+#include "views/map2d/update_map_view.h"
+
+namespace ombrelia {
+
+std::int16_t FractalSide = 0;
+std::vector<double> FractalValues;
+std::vector<std::uint8_t> FractalBytes;
+std::int16_t FractalPart = 0;
+std::int16_t FractalParts = 0;
+
+std::vector<ValueRow> fractalValues() {
+    return {
+        valueRow("FractalSide", FractalSide),
+        valueRow("FractalPart", FractalPart),
+        valueRow("FractalParts", FractalParts),
+    };
+}
+
+namespace {
+
+constexpr int kSmoothnessSlider = 9;
+constexpr int kHeightSlider = 10;
+constexpr int kDetailSlider = 14;
+
+constexpr int kLatticeExtent = 256;  // map points that the lattice is laid over
+constexpr int kLastPoint = HeightGrid::kLast;
+constexpr int kBytesLast = 203162;  // last subscript of FractalBytes
+constexpr int kFullDetail = 256;    // lattice that needs no interpolation
+constexpr double kPi = 3.14159;     // Required: five decimals (interpolation_uses_short_pi)
+
+// Height of a lattice point from the sum of its three bytes.
+std::int16_t heightOf(int byteSum, int height) {
+    const double t = height + (byteSum / 3.0 - 150);
+    std::int16_t result = 0;
+    if (t > 255) {
+        result = 255;
+    } else if (t >= 0) {
+        result = roundToInt16(t);
+    }
+    return result == 0 ? std::int16_t{1} : result;
+}
+
+// heightOf for every value of the first byte, for the lattice's own points.
+class HeightLookup {
+  public:
+    void update(int height) {
+        if (height == height_) {
+            return;
+        }
+        height_ = height;
+        for (std::size_t byte = 0; byte < heights_.size(); ++byte) {
+            heights_[byte] = heightOf(2 * static_cast<int>(byte) + kThirdByte, height);
+        }
+    }
+    std::int16_t operator()(const std::uint8_t* bytes) const {
+        return bytes[2] == kThirdByte ? heights_[bytes[0]]
+                                      : heightOf(bytes[0] + bytes[1] + bytes[2], height_);
+    }
+
+  private:
+    static constexpr int kThirdByte = 230;
+    int height_ = -1;
+    std::array<std::int16_t, 256> heights_{};
+};
+
+// Lays the bytes over the map, column by column. False when it was stopped.
+bool placeHeights(int step, const std::int16_t& height) {
+    announceFractalPart(FractalPart + 1, kLatticeExtent);
+    HeightLookup lookup;
+    const std::uint8_t* bytes = FractalBytes.data();
+    for (int x = 0; x <= kLatticeExtent; x += step) {
+        lookup.update(height);
+        for (int y = 1; y <= kLatticeExtent; y += step, bytes += 3) {
+            if (x <= MapSize && y <= MapSize) {
+                HeightMap(x, y) = lookup(bytes);
+            }
+        }
+        ProgressDone = x;
+        yieldToEvents();
+        if (noteStop()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Blend weights across one lattice cell: a raised sine from 0 towards 1.
+std::array<double, 128> blendWeights(int step) {
+    std::array<double, 128> weights{};
+    for (int k = 0; k < step; ++k) {
+        const double share = static_cast<double>(k) / step;
+        weights[static_cast<std::size_t>(k)] = (std::sin((share * 180 - 90) * (kPi / 180)) + 1) / 2;
+    }
+    return weights;
+}
+
+struct Corners {
+    double a, b, c, e;
+};
+
+// Heights at the corners of the block at (x, y); what lies outside, or is 0, has stand-ins.
+Corners cornersOf(int x, int y, int step) {
+    const std::int16_t own = HeightMap(x, y);
+    const auto corner = [&](int cx, int cy) {
+        const bool isInside = cx <= kLastPoint && cy <= kLastPoint;
+        const std::int16_t found = isInside ? HeightMap(cx, cy) : HeightMap(x, step);
+        return static_cast<double>(found == 0 ? own : found);
+    };
+    return {static_cast<double>(own), corner(x + step, y), corner(x, y + step),
+            corner(x + step, y + step)};
+}
+
+// Required: the block is written one row above the lattice row that it starts from
+// (blocks_land_one_row_higher).
+void blendBlock(int x, int y, int step, const std::array<double, 128>& weights) {
+    const Corners corners = cornersOf(x, y, step);
+    for (int p = x; p <= x + step - 1 && p <= kLastPoint; ++p) {
+        const double wx = weights[static_cast<std::size_t>(p - x)];
+        const double top = (1 - wx) * corners.a + wx * corners.b;
+        const double bottom = (1 - wx) * corners.c + wx * corners.e;
+        for (int q = y; q <= y + step - 1 && q <= kLastPoint; ++q) {
+            const double wy = weights[static_cast<std::size_t>(q - y)];
+            HeightMap(p, q - 1) = roundToInt16((1 - wy) * top + wy * bottom);
+        }
+    }
+}
+
+// Fills the map between the lattice's points. False when it was stopped.
+bool blendBetween(int step) {
+    announceFractalPart(FractalPart + 2, kLatticeExtent);
+    const auto weights = blendWeights(step);
+    for (int x = 0; x <= kLastPoint; x += step) {
+        for (int y = 1; y <= kLastPoint; y += step) {
+            blendBlock(x, y, step, weights);
+            ProgressDone = x;
+            yieldToEvents();
+        }
+        if (noteStop()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void prepareArrays() {
+    const std::size_t size = static_cast<std::size_t>(FractalSide) + 1;
+    FractalValues.assign(size * size + 1, 0.0);
+    FractalBytes.assign(kBytesLast + 1, 0);
+}
+
+}  // namespace
+
+void GenerateCommand() {
+    SetToolsEnabled(false);
+    double h = SliderValues(kSmoothnessSlider).Value / 10.0;
+    GenerateFractalTerrain(h, SliderValues(kHeightSlider).Value);
+    if (isOn(button::kAutoRefresh)) {
+        RefreshAfterEdit();
+    }
+}
+
+void GenerateFractalTerrain(double& h, std::int16_t& height) {
+    FractalSide = roundToInt16(std::pow(2.0, SliderValues(kDetailSlider).Value));
+    prepareArrays();
+    services().random->seedFromClock();
+    FillFractalValues(FractalValues, FractalSide, 5, 1.0, h);
+    if (noteStop()) {
+        return;
+    }
+    // Required: a stop in here takes effect after the first column of the heights
+    // (a_stop_among_the_bytes_writes_one_column).
+    FractalValuesToBytes(FractalValues, FractalSide, FractalBytes);
+    const int step = kLatticeExtent / FractalSide;
+    if (!placeHeights(step, height)) {
+        return;
+    }
+    if (FractalSide != kFullDetail && !blendBetween(step)) {
+        return;
+    }
+    ProgressState = 2;
+}
+
+}  // namespace ombrelia
