@@ -33,8 +33,10 @@ void showBar() {
     ProgressShown = ProgressDone;
     const std::int64_t percent = floorToWhole(share * 100);
     // Required: a blank stands where a sign would (progress_text_has_a_leading_blank).
-    const char* sign = percent < 0 ? "" : " ";
-    Form1.PercDone.Caption = sign + std::to_string(percent) + " Percent Done";
+    std::string& text = Form1.PercDone.Caption;
+    text = percent < 0 ? "" : " ";
+    text += std::to_string(percent);
+    text += " Percent Done";
 }
 
 }  // namespace
