@@ -6,6 +6,7 @@
 #include "core/desk/desk_events.h"
 #include "core/desk/map_gestures.h"
 #include "core/desk/startup.h"
+#include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "platform/dispatch.h"

@@ -34,7 +34,7 @@ void showBar() {
     const std::int64_t percent = floorToWhole(share * 100);
     // Required: a blank stands where a sign would (progress_text_has_a_leading_blank).
     std::string& text = Form1.PercDone.Caption;
-    text = percent < 0 ? "" : " ";
+    text.assign(percent < 0 ? 0 : 1, ' ');
     text += std::to_string(percent);
     text += " Percent Done";
 }

@@ -201,7 +201,7 @@ void designProgress(Form1Window& form) {
                {20, 112, pictureWidth(Picture::ProgressBack), height});
     designImage(form.PBarBack, "PBarBack", form.PBarFrame, 0, 0, Picture::ProgressBack);
     designPart(form.PBar, "PBar", form.PBarFrame, {1, 2, 0, height - 4}, {Picture::ProgressBar, 0});
-    designLabel(form.PercDone, "PercDone", frame, {14, 138, 252, 16}, "0 Percent Done",
+    designLabel(form.PercDone, "PercDone", form.ProgressFrame, {14, 138, 252, 16}, "0 Percent Done",
                 {.color = skin::kTextQuiet, .align = TextAlign::Center});
 }
 
