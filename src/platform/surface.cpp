@@ -21,7 +21,8 @@ void Surface::setSize(int width, int height) {
 }
 
 void Surface::clear() {
-    std::fill(pixels_.begin(), pixels_.end(), pixelOf(Background));
+    const Pixel ground = ShowsGround ? pixelOf(Background) & 0x00FFFFFFU : pixelOf(Background);
+    std::fill(pixels_.begin(), pixels_.end(), ground);
     changed();
 }
 

@@ -35,6 +35,9 @@ class Surface {
     // Colour that clear() leaves; black unless something says otherwise.
     Color Background = rgb(0, 0, 0);
 
+    // Shows what lies under the surface wherever nothing was drawn since clear().
+    bool ShowsGround = false;
+
     void clear();
 
     // One pixel by its number from the left top corner, whatever the scale; nothing outside.

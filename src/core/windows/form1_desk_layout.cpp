@@ -42,6 +42,8 @@ void designMap(Form1Window& form) {
 void designTopStrip(Form1Window& form) {
     designSurface(form.ZoomView, "ZoomView", form, {8, 26, 57, 57});
     form.ZoomView.Face = {Picture::ZoomFrame, 0};
+    form.ZoomView.Canvas.ShowsGround = true;
+    form.ZoomView.Canvas.clear();
     designLabel(form.Label4, "Label4", form, {69, 33, 62, 14}, "Zoom",
                 {.size = 10, .color = skin::kTextQuiet});
     designLabel(form.Label22, "Label22", form, {69, 48, 62, 22}, "",

@@ -1,0 +1,18 @@
+// The editor on the real platform.
+#include <csignal>
+
+#include "app/bindings.h"
+#include "core/desk/startup.h"
+#include "core/windows/form1.h"
+#include "core/windows/small_windows.h"
+#include "platform/qt/qt_program.h"
+
+int main(int argc, char** argv) {
+    // A file-size limit is an error of writing, to be told like any other.
+    std::signal(SIGXFSZ, SIG_IGN);
+    ombrelia::bindEvents();
+    return ombrelia::runProgram(
+        argc, argv,
+        {ombrelia::startEditor, ombrelia::repairAfterFailure,
+         ombrelia::Form1.Width + ombrelia::HelpFrm.Width, ombrelia::Form1.Height});
+}

@@ -1,0 +1,237 @@
+#include "platform/qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QScreen>
+#include <QThread>
+#include <QUrl>
+#include <QWindow>
+#include <utility>
+
+#include "platform/control.h"
+#include "platform/dispatch.h"
+#include "platform/failure.h"
+#include "platform/qt/window_view.h"
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
+namespace ombrelia {
+
+namespace {
+
+// Events are handled at most this often while a handler runs; a yield in between returns at once.
+constexpr qint64 kYieldNanoseconds = 8'000'000;
+
+// How long a window that says "please wait" is waited for before the work begins.
+constexpr int kFirstPictureMilliseconds = 60;
+
+constexpr double kScales[] = {4, 3, 2.5, 2, 1.75, 1.5, 1.25, 1};
+
+// Painting can leave the upper vector registers in use, which slows later arithmetic down.
+#if defined(__x86_64__)
+__attribute__((target("avx"))) void clearUpperRegisters() {
+    _mm256_zeroupper();
+}
+void settleRegisters() {
+    static const bool hasAvx = __builtin_cpu_supports("avx") != 0;
+    if (hasAvx) {
+        clearUpperRegisters();
+    }
+}
+#else
+void settleRegisters() {}
+#endif
+
+}  // namespace
+
+QtDesktop::QtDesktop() {
+    sinceEvents_.start();
+}
+
+QtDesktop::~QtDesktop() {
+    for (const auto& [window, view] : views_) {
+        delete view;
+    }
+}
+
+QRect QtDesktop::freeArea() const {
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+void QtDesktop::chooseScale(double widthUnits, double heightUnits) {
+    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    const QRect free = freeArea();
+    scale_ = kScales[std::size(kScales) - 1];
+    for (const double candidate : kScales) {
+        if (widthUnits * candidate <= free.width() * ratio &&
+            heightUnits * candidate <= free.height() * ratio) {
+            scale_ = candidate;
+            return;
+        }
+    }
+}
+
+double QtDesktop::dockedWidth(const Window& window) const {
+    for (const auto& [other, view] : views_) {
+        if (other->DockedTo == &window) {
+            return other->Width;
+        }
+    }
+    return 0;
+}
+
+WindowView& QtDesktop::viewOf(Window& window) {
+    auto& view = views_[&window];
+    if (view == nullptr) {
+        view = new WindowView(window, *this);
+        if (window.DockedTo == nullptr) {
+            view->place();
+        }
+    }
+    return *view;
+}
+
+void QtDesktop::run(const std::function<void()>& event) {
+    try {
+        runHandler(event);
+    } catch (const ProcessEnd&) {
+        QCoreApplication::exit(0);
+        return;
+    }
+    sync();
+    settleRegisters();
+}
+
+void QtDesktop::sync() {
+    for (const auto& [window, view] : views_) {
+        if (window->Loaded) {
+            view->syncTimers();
+            view->sync();
+        }
+    }
+}
+
+void QtDesktop::painted(Window& /*window*/) {
+    if (OnFirstPaint) {
+        std::exchange(OnFirstPaint, nullptr)();
+    }
+}
+
+WindowView* QtDesktop::dialogParent() const {
+    if (auto* active = dynamic_cast<WindowView*>(QApplication::activeWindow())) {
+        return active;
+    }
+    for (const auto& [window, view] : views_) {
+        if (view->isVisible() && window->DockedTo == nullptr) {
+            return view;
+        }
+    }
+    return nullptr;
+}
+
+void QtDesktop::shown(Window& window) {
+    WindowView& view = viewOf(window);
+    if (window.DockedTo != nullptr) {
+        if (!window.DockedTo->Visible) {
+            return;  // seen together with its host
+        }
+        showDocked(*window.DockedTo);
+        return;
+    }
+    view.sync();
+    view.syncTimers();
+    if (view.isMinimized()) {
+        view.showNormal();
+    } else {
+        view.show();
+    }
+    view.raise();
+    view.activateWindow();
+    showDocked(window);
+}
+
+void QtDesktop::showDocked(Window& host) {
+    WindowView& hostView = viewOf(host);
+    for (const auto& [window, view] : views_) {
+        if (window->DockedTo != &host || !window->Visible || view->isVisible()) {
+            continue;
+        }
+        window->Left = host.Left + host.Width;
+        window->Top = host.Top;
+        static_cast<void>(view->winId());  // makes the system's windows
+        static_cast<void>(hostView.winId());
+        view->windowHandle()->setTransientParent(hostView.windowHandle());
+        view->place();
+        view->sync();
+        view->show();
+    }
+}
+
+void QtDesktop::hidden(Window& window) {
+    viewOf(window).hide();
+}
+
+void QtDesktop::unloaded(Window& window) {
+    const auto found = views_.find(&window);
+    if (found == views_.end()) {
+        return;
+    }
+    WindowView* view = found->second;
+    views_.erase(found);
+    view->hide();
+    view->deleteLater();
+}
+
+void QtDesktop::minimize(Window& window) {
+    viewOf(window).showMinimized();
+}
+
+void QtDesktop::refresh(Control& control) {
+    if (control.Kind == ControlKind::Window) {
+        waitForFirstPicture(viewOf(static_cast<Window&>(control)));
+    }
+}
+
+void QtDesktop::waitForFirstPicture(WindowView& view) {
+    view.sync();
+    QElapsedTimer waited;
+    waited.start();
+    while (!view.windowHandle()->isExposed() && waited.elapsed() < kFirstPictureMilliseconds) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(1);
+    }
+    view.repaint();
+}
+
+void QtDesktop::yield() {
+    if (sinceEvents_.nsecsElapsed() < kYieldNanoseconds) {
+        return;
+    }
+    sync();
+    QCoreApplication::processEvents();
+    settleRegisters();
+    sinceEvents_.start();
+}
+
+void QtDesktop::beginWindowMove(Window& window) {
+    viewOf(window).armMove();
+}
+
+std::string QtDesktop::activeWindowCaption() {
+    const auto* view = dynamic_cast<WindowView*>(QApplication::activeWindow());
+    return view == nullptr ? std::string() : view->windowTitle().toStdString();
+}
+
+void QtDesktop::openWebPage(const std::string& address) {
+    QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
+void QtDesktop::end() {
+    for (const auto& [window, view] : views_) {
+        view->hide();
+    }
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,71 @@
+// The windows on the real screen and the event loop behind them.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QRect>
+#include <functional>
+#include <map>
+
+#include "platform/qt/skin.h"
+#include "platform/services.h"
+
+namespace ombrelia {
+
+class WindowView;
+
+class QtDesktop : public Desktop {
+  public:
+    QtDesktop();
+    ~QtDesktop() override;
+
+    // The windows for which the scale is chosen: the editor and what docks to it, widths added.
+    void chooseScale(double widthUnits, double heightUnits);
+
+    // Device pixels to a unit.
+    double scale() const { return scale_; }
+
+    Skin& skin() { return skin_; }
+
+    // The free area of the screen on which windows open, logical pixels.
+    QRect freeArea() const;
+
+    // Width in units of what docks to the window's right edge.
+    double dockedWidth(const Window& window) const;
+
+    // Runs an event of the logic, then shows what it changed. Ends the process where that was
+    // asked.
+    void run(const std::function<void()>& event);
+
+    // A window was painted.
+    void painted(Window& window);
+
+    // Called once, when the first window has been painted.
+    std::function<void()> OnFirstPaint;
+
+    // The view of the window that is active, or any that is seen; for dialogs. May be null.
+    WindowView* dialogParent() const;
+
+    void shown(Window& window) override;
+    void hidden(Window& window) override;
+    void unloaded(Window& window) override;
+    void minimize(Window& window) override;
+    void refresh(Control& control) override;
+    void yield() override;
+    void beginWindowMove(Window& window) override;
+    std::string activeWindowCaption() override;
+    void openWebPage(const std::string& address) override;
+    void end() override;
+
+  private:
+    WindowView& viewOf(Window& window);
+    void sync();
+    void showDocked(Window& host);
+    void waitForFirstPicture(WindowView& view);
+
+    Skin skin_;
+    double scale_ = 1;
+    std::map<Window*, WindowView*> views_;
+    QElapsedTimer sinceEvents_;
+};
+
+}  // namespace ombrelia

@@ -1,0 +1,54 @@
+#include "platform/qt/qt_program.h"
+
+#include <QApplication>
+#include <cstdio>
+
+#include "platform/generator_random.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_services.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr const char* kProgramName = "Ombrelia Terrain Editor";
+
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+void choosePlatform() {
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // The hint frame is docked by position, which X11 and XWayland offer.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+}
+
+}  // namespace
+
+int runProgram(int argc, char** argv, const ProgramParts& parts) {
+    if (!hasDisplay()) {
+        std::fputs("Ombrelia Terrain Editor needs a display, and there is none.\n", stderr);
+        return 1;
+    }
+    choosePlatform();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("ombrelia-terrain-editor"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QtDesktop desktop;
+    QtDialogs dialogs(desktop);
+    QtSettingsStore settings;
+    QtClock clock;
+    GeneratorRandom random;
+    QtFailureReport failures(dialogs, parts.repair, kProgramName);
+    services() = {&dialogs, &settings, &clock, &random, &desktop, &failures};
+    desktop.chooseScale(parts.widthUnits, parts.heightUnits);
+    desktop.run(parts.start);
+    return QApplication::exec();
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,19 @@
+// The program on the real platform: application object, services, event loop.
+#pragma once
+
+#include <functional>
+
+namespace ombrelia {
+
+// What the logic gives to the program.
+struct ProgramParts {
+    std::function<void()> start;   // shows the first window
+    std::function<void()> repair;  // brings the desk in order after a failure
+    double widthUnits;             // what the scale is chosen for
+    double heightUnits;
+};
+
+// Runs the event loop until the process is to end; the exit status of the process.
+int runProgram(int argc, char** argv, const ProgramParts& parts);
+
+}  // namespace ombrelia

@@ -1,0 +1,212 @@
+#include "platform/qt/window_painter.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <cmath>
+
+#include "platform/dispatch.h"
+
+namespace ombrelia {
+
+namespace {
+
+QColor colorFor(Color color) {
+    return {static_cast<int>(redOf(color)), static_cast<int>(greenOf(color)),
+            static_cast<int>(blueOf(color))};
+}
+
+// A text as it shows: "&&" stands for one "&".
+QString shownText(const std::string& caption) {
+    return QString::fromStdString(caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
+QFont fontFor(double sizeDevice, bool isBold, bool isUnderlined) {
+    QFont font;
+    font.setFamilies(
+        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(sizeDevice))));
+    font.setBold(isBold);
+    font.setUnderline(isUnderlined);
+    return font;
+}
+
+Qt::Alignment alignmentOf(const Label& label) {
+    switch (label.Align) {
+        case TextAlign::Center:
+            return Qt::AlignHCenter;
+        case TextAlign::Right:
+            return Qt::AlignRight;
+        default:
+            return Qt::AlignLeft;
+    }
+}
+
+class Painting {
+  public:
+    Painting(QPainter& painter, const PaintTools& tools) : painter_(painter), tools_(tools) {}
+
+    void draw(const Control& control, const QRect& place) {
+        switch (control.Kind) {
+            case ControlKind::Label:
+                drawLabel(static_cast<const Label&>(control), place);
+                break;
+            case ControlKind::PictureBox:
+                drawPictureBox(static_cast<const PictureBox&>(control), place);
+                break;
+            case ControlKind::ListBox:
+                drawList(static_cast<const ListBox&>(control), place);
+                break;
+            default:
+                drawFace(control, place);
+                break;
+        }
+    }
+
+    void drawLine(const Line& line) {
+        const QPointF from = lineEnd(line, line.X1, line.Y1);
+        const QPointF to = lineEnd(line, line.X2, line.Y2);
+        QPen pen(colorFor(line.BorderColor));
+        pen.setWidthF(std::max(1.0, std::round(line.BorderWidth * tools_.scale)));
+        pen.setCapStyle(Qt::SquareCap);
+        painter_.setPen(pen);
+        painter_.drawLine(from, to);
+    }
+
+    void drawFace(const Control& control, const QRect& place) {
+        if (control.Face.picture != Picture::None && !place.isEmpty()) {
+            painter_.drawImage(place.topLeft(),
+                               tools_.skin.face(control.Face, place.width(), place.height()));
+        }
+    }
+
+  private:
+    void drawLabel(const Label& label, const QRect& place) {
+        if (label.Opaque) {
+            painter_.fillRect(place, colorFor(label.BackColor));
+        }
+        if (label.Caption.empty()) {
+            return;
+        }
+        painter_.setFont(fontFor(label.FontSize * tools_.scale, label.Bold, label.Underline));
+        painter_.setPen(colorFor(label.ForeColor));
+        const int flags = label.WordWrap ? static_cast<int>(Qt::AlignTop | alignmentOf(label)) |
+                                               static_cast<int>(Qt::TextWordWrap)
+                                         : static_cast<int>(Qt::AlignVCenter | alignmentOf(label));
+        painter_.drawText(place, flags, shownText(label.Caption));
+    }
+
+    void drawPictureBox(const PictureBox& box, const QRect& place) {
+        if (box.Opaque) {
+            painter_.fillRect(place, colorFor(box.BackColor));
+        }
+        drawFace(box, place);
+        const Surface& canvas = box.Canvas;
+        if (canvas.width() == 0) {
+            return;
+        }
+        const int border = static_cast<int>(std::lround(box.Border * tools_.scale));
+        const QImage image(
+            reinterpret_cast<const uchar*>(canvas.row(0)), canvas.width(), canvas.height(),
+            canvas.ShowsGround ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+        painter_.drawImage(place.adjusted(border, border, -border, -border), image);
+    }
+
+    void drawList(const ListBox& list, const QRect& place) {
+        const double unit = tools_.scale;
+        painter_.setPen(QPen(QColor(0x4c, 0x62, 0x85), std::max(1.0, std::round(unit))));
+        painter_.setBrush(QColor(0x14, 0x1c, 0x29));
+        painter_.drawRect(place.adjusted(0, 0, -1, -1));
+        painter_.setFont(fontFor(11 * unit, false, false));
+        painter_.setPen(QColor(0xee, 0xf3, 0xfa));
+        const int margin = static_cast<int>(std::lround(6 * unit));
+        painter_.drawText(place.adjusted(margin, 0, -3 * margin, 0),
+                          Qt::AlignVCenter | Qt::AlignLeft, QString::fromStdString(list.Caption));
+        drawListArrow(place);
+    }
+
+    void drawListArrow(const QRect& place) {
+        const double unit = tools_.scale;
+        const QPointF middle(place.right() - 10 * unit, place.center().y() + 0.5);
+        const QPolygonF arrow({middle + QPointF(-4 * unit, -2 * unit),
+                               middle + QPointF(4 * unit, -2 * unit),
+                               middle + QPointF(0, 3 * unit)});
+        painter_.setRenderHint(QPainter::Antialiasing);
+        painter_.setPen(Qt::NoPen);
+        painter_.setBrush(QColor(0xb3, 0xc2, 0xd6));
+        painter_.drawPolygon(arrow);
+        painter_.setRenderHint(QPainter::Antialiasing, false);
+    }
+
+    // A line stands in the scale of the surface that contains it, otherwise in units.
+    QPointF lineEnd(const Line& line, double x, double y) const {
+        const Point corner = cornerInWindow(*line.Parent);
+        if (line.Parent->Kind == ControlKind::PictureBox) {
+            const auto& box = static_cast<const PictureBox&>(*line.Parent);
+            if (box.Canvas.width() > 0) {
+                x = (x - box.Canvas.ScaleLeft) * box.innerWidth() / box.Canvas.ScaleWidth;
+                y = (y - box.Canvas.ScaleTop) * box.innerHeight() / box.Canvas.ScaleHeight;
+            }
+        }
+        const double half = tools_.scale / 2;
+        return {std::floor((corner.x + x) * tools_.scale + half),
+                std::floor((corner.y + y) * tools_.scale + half)};
+    }
+
+    QPainter& painter_;
+    const PaintTools& tools_;
+};
+
+}  // namespace
+
+QRect deviceRect(const Control& control, double scale) {
+    const Point corner =
+        control.Kind == ControlKind::Window ? Point{0, 0} : cornerInWindow(control);
+    double border = 0;
+    if (control.Kind == ControlKind::PictureBox) {
+        border = static_cast<const PictureBox&>(control).Border;
+    }
+    const double left = corner.x - border;
+    const double top = corner.y - border;
+    const auto device = [scale](double units) {
+        return static_cast<int>(std::lround(units * scale));
+    };
+    return {QPoint(device(left), device(top)),
+            QPoint(device(left + control.Width) - 1, device(top + control.Height) - 1)};
+}
+
+QRect visibleDeviceRect(const Control& control, double scale) {
+    QRect place = deviceRect(control, scale);
+    if (control.Kind == ControlKind::Line && control.Parent != nullptr) {
+        place = deviceRect(*control.Parent, scale);
+    }
+    for (const Control* part = &control; part != nullptr; part = part->Parent) {
+        if (!part->Visible && part->Kind != ControlKind::Window) {
+            return {};
+        }
+        if (part != &control) {
+            place &= deviceRect(*part, scale);
+        }
+    }
+    return place;
+}
+
+void paintWindow(QPainter& painter, Window& window, const QRect& dirtyDevice,
+                 const PaintTools& tools) {
+    Painting painting(painter, tools);
+    painter.setClipRect(dirtyDevice);
+    painting.drawFace(window, deviceRect(window, tools.scale));
+    for (const Control* control : window.Controls) {
+        const QRect seen = visibleDeviceRect(*control, tools.scale) & dirtyDevice;
+        if (seen.isEmpty() || control->Kind == ControlKind::Timer) {
+            continue;
+        }
+        painter.setClipRect(seen);
+        if (control->Kind == ControlKind::Line) {
+            painting.drawLine(static_cast<const Line&>(*control));
+        } else {
+            painting.draw(*control, deviceRect(*control, tools.scale));
+        }
+    }
+}
+
+}  // namespace ombrelia

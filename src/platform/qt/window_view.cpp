@@ -1,0 +1,288 @@
+#include "platform/qt/window_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleHints>
+#include <QWindow>
+#include <cmath>
+
+#include "platform/dispatch.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/window_painter.h"
+
+namespace ombrelia {
+
+namespace {
+
+// A timer of the logic fires at most once in a display frame.
+constexpr int kFrameMilliseconds = 16;
+
+MouseButton buttonOf(Qt::MouseButton button) {
+    switch (button) {
+        case Qt::LeftButton:
+            return MouseButton::Left;
+        case Qt::RightButton:
+            return MouseButton::Right;
+        case Qt::MiddleButton:
+            return MouseButton::Middle;
+        default:
+            return MouseButton::None;
+    }
+}
+
+Qt::WindowFlags flagsOf(const Window& window) {
+    if (window.DockedTo != nullptr) {
+        return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+    }
+    return Qt::Window | Qt::FramelessWindowHint;
+}
+
+}  // namespace
+
+WindowView::WindowView(Window& window, QtDesktop& desktop)
+    : QWidget(nullptr, flagsOf(window)), window_(window), desktop_(desktop) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    if (window.DockedTo != nullptr) {
+        setAttribute(Qt::WA_ShowWithoutActivating);
+    }
+    setMouseTracking(true);
+    setWindowTitle(QString::fromStdString(window.Caption));
+}
+
+void WindowView::place() {
+    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    setFixedSize(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
+                 static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
+    if (window_.DockedTo != nullptr) {
+        followRecord();
+        return;
+    }
+    const QRect free = desktop_.freeArea();
+    const double docked = desktop_.dockedWidth(window_) * logicalPerUnit;
+    const int left = free.left() + static_cast<int>((free.width() - width() - docked) / 2);
+    const int top = free.top() + (free.height() - height()) / 2;
+    move(std::max(free.left(), left), std::max(free.top(), top));
+    window_.Left = pos().x() / logicalPerUnit;
+    window_.Top = pos().y() / logicalPerUnit;
+}
+
+void WindowView::followRecord() {
+    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
+                        static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
+    if (target != pos()) {
+        move(target);
+    }
+}
+
+WindowView::Shown WindowView::lookOf(const Control& control) const {
+    Shown look;
+    look.rect = visibleDeviceRect(control, desktop_.scale());
+    look.face = control.Face;
+    look.caption = control.Caption;
+    if (control.Kind == ControlKind::Label) {
+        look.style = static_cast<const Label&>(control).ForeColor;
+    } else if (control.Kind == ControlKind::PictureBox) {
+        const auto& box = static_cast<const PictureBox&>(control);
+        look.revision = box.Canvas.revision();
+        look.style = box.BackColor;
+    } else if (control.Kind == ControlKind::Line) {
+        const auto& line = static_cast<const Line&>(control);
+        look.numbers = {line.X1, line.Y1, line.X2, line.Y2};
+        look.style = line.BorderColor + (static_cast<std::uint64_t>(line.BorderWidth) << 32U);
+    }
+    return look;
+}
+
+QRect WindowView::logicalRect(const QRect& device) const {
+    const double ratio = devicePixelRatioF();
+    return QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio,
+                  device.height() / ratio)
+        .toAlignedRect();
+}
+
+void WindowView::sync() {
+    if (window_.DockedTo != nullptr) {
+        followRecord();
+    }
+    if (shown_.size() != window_.Controls.size()) {
+        shown_.assign(window_.Controls.size(), {});
+        update();
+    }
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
+        Shown look = lookOf(*window_.Controls[i]);
+        if (look != shown_[i]) {
+            update(logicalRect(look.rect | shown_[i].rect));
+            shown_[i] = std::move(look);
+        }
+    }
+}
+
+void WindowView::syncTimers() {
+    for (const Control* control : window_.Controls) {
+        if (control->Kind != ControlKind::Timer) {
+            continue;
+        }
+        const auto* timer = static_cast<const Timer*>(control);
+        QBasicTimer& system = timers_[timer];
+        const bool isWanted = window_.Loaded && timer->Enabled && timer->Interval > 0;
+        if (isWanted && !system.isActive()) {
+            system.start(std::max(kFrameMilliseconds, timer->Interval), this);
+        } else if (!isWanted) {
+            system.stop();
+        }
+    }
+}
+
+void WindowView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    painter.scale(1 / ratio, 1 / ratio);
+    const PaintTools tools{desktop_.skin(), desktop_.scale()};
+    for (const QRect& part : event->region()) {
+        const QRect device =
+            QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
+                .toAlignedRect();
+        paintWindow(painter, window_, device, tools);
+    }
+    desktop_.painted(window_);
+}
+
+QPointF WindowView::unitsOf(const QPointF& logical) const {
+    return logical * (devicePixelRatioF() / desktop_.scale());
+}
+
+void WindowView::deliverTo(Control& control, Event event, MouseButton button,
+                           const QPointF& units) {
+    const Point corner =
+        control.Kind == ControlKind::Window ? Point{0, 0} : cornerInWindow(control);
+    desktop_.run(
+        [&] { deliverMouse(control, event, button, units.x() - corner.x, units.y() - corner.y); });
+}
+
+void WindowView::press(QMouseEvent* event) {
+    const QPointF units = unitsOf(event->position());
+    pressGlobal_ = event->globalPosition().toPoint();
+    pressCorner_ = pos();
+    isMoveArmed_ = false;
+    isFollowing_ = false;
+    captured_ = &controlAt(window_, units.x(), units.y());
+    heldButton_ = buttonOf(event->button());
+    deliverTo(*captured_, Event::MouseDown, heldButton_, units);
+}
+
+void WindowView::mousePressEvent(QMouseEvent* event) {
+    if (captured_ != nullptr) {
+        return;  // one button at a time
+    }
+    isSecondPress_ = false;
+    press(event);
+}
+
+void WindowView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (captured_ != nullptr) {
+        return;
+    }
+    const QPointF units = unitsOf(event->position());
+    Control& control = controlAt(window_, units.x(), units.y());
+    if (control.handlerOf(Event::DblClick) == nullptr) {
+        // Nothing waits for a double click here: the second press is a press like the first.
+        isSecondPress_ = false;
+        press(event);
+        return;
+    }
+    isSecondPress_ = true;
+    captured_ = &control;
+    heldButton_ = buttonOf(event->button());
+    deliverTo(control, Event::DblClick, heldButton_, units);
+}
+
+bool WindowView::moveWindow(QMouseEvent* event) {
+    const QPoint moved = event->globalPosition().toPoint() - pressGlobal_;
+    if (isFollowing_) {
+        move(pressCorner_ + moved);
+        return true;
+    }
+    if (!isMoveArmed_) {
+        return false;
+    }
+    if (moved.manhattanLength() < QGuiApplication::styleHints()->startDragDistance()) {
+        return true;
+    }
+    isMoveArmed_ = false;
+    if (windowHandle()->startSystemMove()) {
+        captured_ = nullptr;
+    } else {
+        isFollowing_ = true;
+        move(pressCorner_ + moved);
+    }
+    return true;
+}
+
+void WindowView::mouseMoveEvent(QMouseEvent* event) {
+    if (moveWindow(event)) {
+        return;
+    }
+    const QPointF units = unitsOf(event->position());
+    if (captured_ != nullptr) {
+        deliverTo(*captured_, Event::MouseMove, heldButton_, units);
+    } else {
+        deliverTo(controlAt(window_, units.x(), units.y()), Event::MouseMove, MouseButton::None,
+                  units);
+    }
+}
+
+void WindowView::mouseReleaseEvent(QMouseEvent* event) {
+    isMoveArmed_ = false;
+    isFollowing_ = false;
+    if (captured_ == nullptr || buttonOf(event->button()) != heldButton_) {
+        return;
+    }
+    const QPointF units = unitsOf(event->position());
+    Control& control = *captured_;
+    const MouseButton button = heldButton_;
+    captured_ = nullptr;
+    heldButton_ = MouseButton::None;
+    const QPointer<WindowView> self(this);
+    deliverTo(control, Event::MouseUp, button, units);
+    if (self.isNull() || !window_.Loaded) {
+        return;
+    }
+    const bool isInside = &controlAt(window_, units.x(), units.y()) == &control;
+    if (button == MouseButton::Left && isInside && !isSecondPress_) {
+        deliverTo(control, Event::Click, button, units);
+    }
+}
+
+void WindowView::leaveEvent(QEvent* /*event*/) {
+    if (captured_ == nullptr && window_.Loaded) {
+        deliverTo(window_, Event::MouseMove, MouseButton::None, QPointF(-1, -1));
+    }
+}
+
+void WindowView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    desktop_.run([this] { deliverClose(window_); });
+}
+
+void WindowView::moveEvent(QMoveEvent* /*event*/) {
+    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    window_.Left = pos().x() / logicalPerUnit;
+    window_.Top = pos().y() / logicalPerUnit;
+}
+
+void WindowView::timerEvent(QTimerEvent* event) {
+    for (const auto& [timer, system] : timers_) {
+        if (system.timerId() == event->timerId()) {
+            auto& control = const_cast<Timer&>(*timer);
+            desktop_.run([&control] { deliver(control, Event::Timer); });
+            return;
+        }
+    }
+}
+
+}  // namespace ombrelia

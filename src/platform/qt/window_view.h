@@ -1,0 +1,85 @@
+// One window on the screen: shows its record, compares it with what was last painted, and turns the
+// toolkit's events into the logic's.
+#pragma once
+
+#include <QBasicTimer>
+#include <QPointer>
+#include <QWidget>
+#include <map>
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/qt/skin.h"
+
+namespace ombrelia {
+
+class QtDesktop;
+
+class WindowView : public QWidget {
+  public:
+    WindowView(Window& window, QtDesktop& desktop);
+
+    Window& window() { return window_; }
+
+    // Asks for a repaint of every part that differs from what was last painted; follows the
+    // record's place where the window is docked.
+    void sync();
+
+    // Sets the size on the screen for a scale and puts the window in the middle, with room for what
+    // docks to it.
+    void place();
+
+    // Starts and stops the system timers to match the record.
+    void syncTimers();
+
+    // The press that is being handled may become a move of the window.
+    void armMove() { isMoveArmed_ = true; }
+
+    // Moves the window to the place in its record.
+    void followRecord();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+  private:
+    // What a part looked like when it was last painted.
+    struct Shown {
+        QRect rect;
+        PictureFace face;
+        std::string caption;
+        std::array<double, 4> numbers{};  // ends of a line
+        std::uint64_t revision = 0;
+        std::uint64_t style = 0;
+        bool operator==(const Shown&) const = default;
+    };
+
+    Shown lookOf(const Control& control) const;
+    QPointF unitsOf(const QPointF& logical) const;
+    void deliverTo(Control& control, Event event, MouseButton button, const QPointF& units);
+    void press(QMouseEvent* event);
+    bool moveWindow(QMouseEvent* event);
+    QRect logicalRect(const QRect& device) const;
+
+    Window& window_;
+    QtDesktop& desktop_;
+    std::vector<Shown> shown_;
+    std::map<const Timer*, QBasicTimer> timers_;
+
+    Control* captured_ = nullptr;  // got the press of the held button
+    MouseButton heldButton_ = MouseButton::None;
+    bool isSecondPress_ = false;  // of a double click that its control handles
+    bool isMoveArmed_ = false;
+    bool isFollowing_ = false;  // the window follows the pointer by itself
+    QPoint pressGlobal_;
+    QPoint pressCorner_;
+};
+
+}  // namespace ombrelia
