@@ -17,7 +17,7 @@ constexpr int kSplashMilliseconds = 7000;
 void designSplash() {
     designWindow(frmSplash, "frmSplash", "Ombrelia Terrain Editor", 460, 280, Picture::Splash);
     designLabel(frmSplash.Title, "Title", frmSplash, {24, 196, 420, 32}, "Ombrelia Terrain Editor",
-                {.size = 24, .color = skin::kTitle, .bold = true});
+                {.size = 22, .color = skin::kTitle, .bold = true});
     designLabel(frmSplash.Subtitle, "Subtitle", frmSplash, {25, 230, 420, 16},
                 "Landscapes for Ombrelia, drawn by hand or grown by chance",
                 {.size = 11, .color = skin::kText});

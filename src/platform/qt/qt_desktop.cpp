@@ -206,7 +206,9 @@ void QtDesktop::waitForFirstPicture(WindowView& view) {
 }
 
 void QtDesktop::yield() {
-    if (sinceEvents_.nsecsElapsed() < kYieldNanoseconds) {
+    if (yieldMilliseconds_ > 0) {
+        QThread::msleep(static_cast<unsigned long>(yieldMilliseconds_));
+    } else if (sinceEvents_.nsecsElapsed() < kYieldNanoseconds) {
         return;
     }
     sync();

@@ -26,6 +26,9 @@ class QtDesktop : public Desktop {
 
     Skin& skin() { return skin_; }
 
+    // Makes each yield handle events and last at least this long; 0: as fast as can be.
+    void setYieldTime(int milliseconds) { yieldMilliseconds_ = milliseconds; }
+
     // The free area of the screen on which windows open, logical pixels.
     QRect freeArea() const;
 
@@ -66,6 +69,7 @@ class QtDesktop : public Desktop {
     double scale_ = 1;
     std::map<Window*, WindowView*> views_;
     QElapsedTimer sinceEvents_;
+    int yieldMilliseconds_ = 0;
 };
 
 }  // namespace ombrelia

@@ -11,6 +11,7 @@ struct ProgramParts {
     std::function<void()> repair;  // brings the desk in order after a failure
     double widthUnits;             // what the scale is chosen for
     double heightUnits;
+    int yieldMilliseconds = 0;  // how long each yield takes at least; above 0 to watch a run slowly
 };
 
 // Runs the event loop until the process is to end; the exit status of the process.

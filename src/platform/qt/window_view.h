@@ -19,7 +19,7 @@ class WindowView : public QWidget {
   public:
     WindowView(Window& window, QtDesktop& desktop);
 
-    Window& window() { return window_; }
+    const Window& window() const { return window_; }
 
     // Asks for a repaint of every part that differs from what was last painted; follows the
     // record's place where the window is docked.

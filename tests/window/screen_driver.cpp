@@ -1,0 +1,202 @@
+#include "screen_driver.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QScreen>
+#include <QWindow>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "app/bindings.h"
+#include "core/desk/startup.h"
+#include "core/windows/form1.h"
+#include "core/windows/small_windows.h"
+#include "platform/dispatch.h"
+#include "platform/qt/qt_program.h"
+#include "platform/qt/window_view.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 8000;
+
+WindowView* viewOf(const Window& window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* view = dynamic_cast<WindowView*>(widget);
+        if (view != nullptr && &view->window() == &window && view->isVisible() &&
+            view->windowHandle()->isExposed()) {
+            return view;
+        }
+    }
+    return nullptr;
+}
+
+double scaleOf(const WindowView& view) {
+    return view.width() * view.devicePixelRatioF() / view.window().Width;
+}
+
+// A place in units from the control's inner corner, on the screen.
+QPoint onScreen(Control& control, double x, double y) {
+    WindowView* view = viewOf(*control.Owner);
+    if (view == nullptr) {
+        return {-1, -1};
+    }
+    const Point corner =
+        control.Kind == ControlKind::Window ? Point{0, 0} : cornerInWindow(control);
+    const double scale = std::floor(scaleOf(*view) * 4 + 0.01) / 4;
+    const QPointF place((corner.x + x) * scale, (corner.y + y) * scale);
+    return view->mapToGlobal((place / view->devicePixelRatioF()).toPoint());
+}
+
+}  // namespace
+
+void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yieldMilliseconds) {
+    ASSERT_NE(std::getenv("DISPLAY"), nullptr) << "run these tests through tools/with_screen.sh";
+    static char name[] = "window_tests";
+    static char* arguments[] = {name, nullptr};
+    ScreenDriver driver;
+    std::thread person;
+    bindEvents();
+    runProgram(1, arguments,
+               {[&] {
+                    startEditor();
+                    person = std::thread([&] {
+                        story(driver);
+                        QMetaObject::invokeMethod(
+                            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+                    });
+                },
+                repairAfterFailure, Form1.Width + HelpFrm.Width, Form1.Height, yieldMilliseconds});
+    person.join();
+}
+
+void ScreenDriver::inProgram(const std::function<void()>& work) {
+    QMetaObject::invokeMethod(qApp, work, Qt::BlockingQueuedConnection);
+}
+
+bool ScreenDriver::waitFor(const std::function<bool()>& holds) {
+    for (int waited = 0; waited < kPatienceMilliseconds; waited += 20) {
+        bool result = false;
+        inProgram([&] { result = holds(); });
+        if (result) {
+            return true;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return false;
+}
+
+bool ScreenDriver::waitForWindow(Window& window) {
+    const bool isThere = waitFor([&] { return viewOf(window) != nullptr; });
+    rest(250);
+    return isThere;
+}
+
+void ScreenDriver::tell(const std::string& words) {
+    const int status = std::system(("xdotool " + words).c_str());
+    EXPECT_EQ(status, 0) << words;
+}
+
+void ScreenDriver::moveTo(Control& control, double x, double y) {
+    QPoint place;
+    inProgram([&] { place = onScreen(control, x, y); });
+    tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()));
+    rest(60);
+}
+
+void ScreenDriver::moveTo(Control& control) {
+    moveTo(control, control.Width / 2, control.Height / 2);
+}
+
+void ScreenDriver::press(int button) {
+    tell("mousedown " + std::to_string(button));
+    rest(60);
+}
+
+void ScreenDriver::release(int button) {
+    tell("mouseup " + std::to_string(button));
+    rest();
+}
+
+void ScreenDriver::click(Control& control) {
+    click(control, control.Width / 2, control.Height / 2);
+}
+
+void ScreenDriver::click(Control& control, double x, double y) {
+    moveTo(control, x, y);
+    press();
+    release();
+}
+
+void ScreenDriver::type(const std::string& text) {
+    tell("type --delay 8 '" + text + "'");
+    rest();
+}
+
+void ScreenDriver::key(const std::string& name) {
+    tell("key " + name);
+    rest();
+}
+
+bool ScreenDriver::waitForDialog(const std::string& title) {
+    const QString wanted = QString::fromStdString(title);
+    const bool isThere = waitFor([&] {
+        const QWidget* dialog = QApplication::activeModalWidget();
+        return dialog != nullptr && dialog->windowTitle() == wanted && dialog->isActiveWindow();
+    });
+    rest(250);
+    return isThere;
+}
+
+std::string ScreenDriver::dialogText() {
+    std::string text;
+    inProgram([&] {
+        if (auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            text = box->text().toStdString();
+        }
+    });
+    return text;
+}
+
+QImage ScreenDriver::pictureOf(Control& control) {
+    rest();
+    QImage picture;
+    inProgram([&] {
+        const QPoint corner = onScreen(control, 0, 0);
+        double border = 0;
+        if (control.Kind == ControlKind::PictureBox) {
+            border = static_cast<PictureBox&>(control).Border;
+        }
+        const double scale = std::floor(scaleOf(*viewOf(*control.Owner)) * 4 + 0.01) / 4;
+        const auto side = [&](double units) {
+            return static_cast<int>(std::lround((units - 2 * border) * scale));
+        };
+        picture =
+            QGuiApplication::primaryScreen()
+                ->grabWindow(0, corner.x(), corner.y(), side(control.Width), side(control.Height))
+                .toImage();
+    });
+    return picture;
+}
+
+double ScreenDriver::scale() {
+    double result = 0;
+    inProgram([&] {
+        for (Window* window : allWindows()) {
+            if (WindowView* view = viewOf(*window)) {
+                result = std::floor(scaleOf(*view) * 4 + 0.01) / 4;
+            }
+        }
+    });
+    return result;
+}
+
+void ScreenDriver::rest(int milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+}  // namespace ombrelia

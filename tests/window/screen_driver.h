@@ -1,0 +1,55 @@
+// Runs the real program on the screen that the test was given and works it like a person: a thread
+// of its own moves the mouse and types through the X server, and looks at the result.
+#pragma once
+
+#include <QImage>
+#include <functional>
+#include <string>
+
+#include "platform/control.h"
+
+namespace ombrelia {
+
+class ScreenDriver {
+  public:
+    // Runs the program from its start; story is told in a second thread and, when it is over, the
+    // program ends. False if the program did not end in time.
+    // yieldMilliseconds above 0 slows every long operation down, so that it can be watched.
+    static void run(const std::function<void(ScreenDriver&)>& story, int yieldMilliseconds = 0);
+
+    // Executes work between events of the program, where it may read the tables, and waits for it.
+    void inProgram(const std::function<void()>& work);
+
+    // Waits until something holds, a few seconds at most; false if it does not.
+    bool waitFor(const std::function<bool()>& holds);
+    bool waitForWindow(Window& window);
+
+    // The mouse, at a place in units from a control's inner corner (its middle if left out).
+    void moveTo(Control& control, double x, double y);
+    void moveTo(Control& control);
+    void press(int button = 1);
+    void release(int button = 1);
+    void click(Control& control);
+    void click(Control& control, double x, double y);
+
+    // The keyboard, to whatever has it.
+    void type(const std::string& text);
+    void key(const std::string& name);
+
+    // Waits for a dialog with this title; empty if none comes, otherwise its text.
+    bool waitForDialog(const std::string& title);
+    std::string dialogText();
+
+    // The picture of a control's inner area as the screen shows it, device pixels.
+    QImage pictureOf(Control& control);
+
+    double scale();
+
+    // Lets the program settle.
+    void rest(int milliseconds = 120);
+
+  private:
+    void tell(const std::string& words);
+};
+
+}  // namespace ombrelia

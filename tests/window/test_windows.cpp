@@ -1,0 +1,118 @@
+// The windows themselves: moving, minimising, closing, asking, coming back.
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include "core/objects.h"
+#include "stories.h"
+
+namespace ombrelia {
+
+TEST(Windows, the_title_moves_the_window_and_the_hint_follows) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        const double before = Form1.Top;
+        driver.moveTo(Form1.Label11, 200, 10);
+        driver.press();
+        for (int step = 1; step <= 6; ++step) {
+            driver.moveTo(Form1.Label11, 200, 10 + 5.0 * step);
+        }
+        driver.release();
+        driver.rest(300);
+        driver.inProgram([&] {
+            EXPECT_GT(Form1.Top, before + 5);
+            EXPECT_DOUBLE_EQ(HelpFrm.Top, Form1.Top);
+            EXPECT_DOUBLE_EQ(HelpFrm.Left, Form1.Left + Form1.Width);
+        });
+    });
+}
+
+TEST(Windows, the_editor_is_active_with_its_title_in_the_active_colour) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMedium));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Label11.ForeColor == rgb(255, 255, 255); }));
+        driver.inProgram(
+            [] { EXPECT_EQ(Form1.Label11.Caption, "Ombrelia Terrain Editor - Medium Map"); });
+    });
+}
+
+TEST(Windows, minimize_takes_the_editor_off_the_screen) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        driver.click(Form1.NTool(button::kMinimize));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Minimized; }));
+    });
+}
+
+TEST(Windows, closing_asks_and_no_keeps_the_editor) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        driver.click(Form1.NTool(button::kClose));
+        ASSERT_TRUE(driver.waitForDialog("Exit?"));
+        EXPECT_EQ(driver.dialogText(), "Are you sure you want to Exit?");
+        driver.key("Return");  // the second button, No, is the default
+        EXPECT_TRUE(driver.waitFor([] { return QApplication::activeModalWidget() == nullptr; }));
+        driver.inProgram([] { EXPECT_TRUE(Form1.Loaded); });
+    });
+}
+
+TEST(Windows, new_map_goes_back_to_the_size_dialog_and_builds_everything_anew) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeLarge));
+        driver.inProgram([] { HeightMap(10, 10) = 200; });
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kNewMap);
+        ASSERT_TRUE(driver.waitForDialog("Start New Map?"));
+        driver.key("alt+y");
+        ASSERT_TRUE(driver.waitForWindow(SizeSelect));
+        driver.inProgram([] { EXPECT_FALSE(Form1.Loaded); });
+        driver.click(SizeSelect.NTool(button::kSizeMiniature), 4, 4);
+        ASSERT_TRUE(driver.waitForWindow(Form1));
+        driver.inProgram([] {
+            EXPECT_EQ(MapSize, 65);
+            EXPECT_EQ(HeightMap(10, 10), 40);
+            EXPECT_EQ(Form1.Label11.Caption, "Ombrelia Terrain Editor - Miniature Map");
+        });
+    });
+}
+
+TEST(Windows, about_shows_the_splash_until_it_is_clicked) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kAbout);
+        ASSERT_TRUE(driver.waitForWindow(frmSplash));
+        driver.click(frmSplash, 40, 40);
+        EXPECT_TRUE(driver.waitFor([] { return !frmSplash.Loaded; }));
+        driver.inProgram([] { EXPECT_FALSE(SizeSelect.Visible); });
+    });
+}
+
+TEST(Windows, the_joke_of_the_size_dialog_is_told_by_the_mouse) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(driver.waitForWindow(frmSplash));
+        driver.click(frmSplash, 60, 60);
+        ASSERT_TRUE(driver.waitForWindow(SizeSelect));
+        driver.moveTo(SizeSelect.Label2);
+        EXPECT_TRUE(driver.waitFor([] { return SizeSelect.Label2.Caption == kImportLineHovered; }));
+        driver.press();
+        driver.release();
+        driver.press();
+        driver.release();
+        EXPECT_TRUE(driver.waitFor([] { return EggArmed == 1; }));
+        driver.inProgram([] { EXPECT_EQ(SizeSelect.Label2.Caption, kImportLineArmed); });
+        driver.moveTo(SizeSelect.NTool(button::kSizeLarge), 3, 3);
+        EXPECT_TRUE(driver.waitFor([] { return SizeSelect.Label2.Caption == kImportLine; }));
+    });
+}
+
+TEST(Windows, buttons_show_the_pointer_over_them) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        driver.moveTo(Form1.NTool(button::kPencil + kOverlayOffset));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.NTool(button::kPencil).Face.face == 1; }));
+        driver.moveTo(Form1, 5, 350);
+        EXPECT_TRUE(driver.waitFor([] { return Form1.NTool(button::kPencil).Face.face == 0; }));
+    });
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,47 @@
+# Shared by ./run and ./test: packages and the build.
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core)
+SCREEN_PACKAGES=(xvfb openbox xdotool x11-utils imagemagick)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev netpbm clang-format python3 git)
+
+step() {
+    printf '\n== %s\n' "$*"
+}
+
+# Installs those of the named packages that are missing, and says so.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    step "Installing ${missing[*]}"
+    local root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing and sudo is not there. As root, run:" >&2
+            echo "    apt-get install ${missing[*]}" >&2
+            exit 1
+        }
+        root=(sudo)
+    fi
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET yes|no [TARGET ...]; yes: with the tests
+build() {
+    local preset=$1 tests=$2 folder targets=()
+    shift 2
+    folder=build
+    [ "$preset" = release ] || folder=build-$preset
+    step "Building ($preset)"
+    if [ ! -f "$folder/build.ninja" ]; then
+        cmake --preset "$preset" -DBUILD_TESTING="$([ "$tests" = yes ] && echo ON || echo OFF)" >/dev/null
+    elif [ "$tests" = yes ] && ! grep -q '^BUILD_TESTING:BOOL=ON' "$folder/CMakeCache.txt"; then
+        cmake --preset "$preset" -DBUILD_TESTING=ON >/dev/null
+    fi
+    [ $# -eq 0 ] || targets=(--target "$@")
+    cmake --build "$folder" "${targets[@]}"
+}

@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Runs a command on a virtual screen of its own, with a window manager:
+#   tools/with_screen.sh [WIDTHxHEIGHT] COMMAND ...
+set -euo pipefail
+size=1920x1080
+if [[ $1 =~ ^[0-9]+x[0-9]+$ ]]; then
+    size=$1
+    shift
+fi
+scratch=$(mktemp -d)
+screen=
+manager=
+finish() {
+    [ -z "$manager" ] || kill "$manager" 2>/dev/null || :
+    [ -z "$screen" ] || kill "$screen" 2>/dev/null || :
+    wait 2>/dev/null || :
+    rm -rf "$scratch"
+}
+trap finish EXIT
+
+exec 3>"$scratch/display"
+Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp >"$scratch/xvfb.log" 2>&1 &
+screen=$!
+exec 3>&-
+for _ in $(seq 100); do
+    [ -s "$scratch/display" ] && break
+    sleep 0.05
+done
+[ -s "$scratch/display" ] || { echo "the virtual screen did not start:" >&2; cat "$scratch/xvfb.log" >&2; exit 1; }
+DISPLAY=:$(cat "$scratch/display")
+export DISPLAY
+unset WAYLAND_DISPLAY
+mkdir -p "$scratch/config" "$scratch/runtime"
+chmod 700 "$scratch/runtime"
+export XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch/runtime
+export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES="qt.qpa.*=false"
+openbox >"$scratch/openbox.log" 2>&1 &
+manager=$!
+for _ in $(seq 100); do
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q window && break
+    sleep 0.05
+done
+"$@"
