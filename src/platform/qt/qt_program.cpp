@@ -46,6 +46,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     GeneratorRandom random;
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
     services() = {&dialogs, &settings, &clock, &random, &desktop, &failures};
+    desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);
     desktop.run(parts.start);

@@ -12,6 +12,7 @@ struct ProgramParts {
     double widthUnits;             // what the scale is chosen for
     double heightUnits;
     int yieldMilliseconds = 0;  // how long each yield takes at least; above 0 to watch a run slowly
+    std::function<void()> onFirstPaint = {};  // once the first window has been painted
 };
 
 // Runs the event loop until the process is to end; the exit status of the process.

@@ -1,0 +1,16 @@
+// The editor from its start to its first painted window, then the end.
+#include <QCoreApplication>
+
+#include "app/bindings.h"
+#include "core/desk/startup.h"
+#include "core/windows/form1.h"
+#include "core/windows/small_windows.h"
+#include "platform/qt/qt_program.h"
+
+int main(int argc, char** argv) {
+    ombrelia::bindEvents();
+    return ombrelia::runProgram(argc, argv,
+                                {ombrelia::startEditor, ombrelia::repairAfterFailure,
+                                 ombrelia::Form1.Width + ombrelia::HelpFrm.Width,
+                                 ombrelia::Form1.Height, 0, [] { QCoreApplication::exit(0); }});
+}
