@@ -52,11 +52,13 @@ void appendPalette(std::string& header) {
 }
 
 void appendRow(std::string& bytes, int y, int mapSize) {
+    const std::size_t start = bytes.size();
+    bytes.resize(start + static_cast<std::size_t>(mapSize) + kRowPadding);  // zeros
     const std::int16_t* row = HeightMap.row(y);
+    char* out = bytes.data() + start;
     for (int x = 0; x < mapSize; ++x) {
-        bytes.push_back(static_cast<char>(row[x] < 0 ? 0 : row[x]));
+        out[x] = static_cast<char>(row[x] < 0 ? 0 : row[x]);
     }
-    bytes.append(kRowPadding, '\0');
 }
 
 std::span<const std::uint8_t> bytesOf(const std::string& text) {
