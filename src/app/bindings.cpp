@@ -27,9 +27,6 @@ struct Binding {
 const Binding kBindings[] = {
     {&frmSplash, "", Event::Load, frmSplash_Load},
     {&frmSplash, "", Event::Click, frmSplash_Click},
-    {&frmSplash, "Title", Event::Click, frmSplash_Click},
-    {&frmSplash, "Subtitle", Event::Click, frmSplash_Click},
-    {&frmSplash, "Maker", Event::Click, frmSplash_Click},
     {&frmSplash, "Timer1", Event::Timer, frmSplash_Timer},
 
     {&SizeSelect, "", Event::Load, SizeSelect_Load},

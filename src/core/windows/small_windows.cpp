@@ -16,13 +16,6 @@ constexpr int kSplashMilliseconds = 7000;
 
 void designSplash() {
     designWindow(frmSplash, "frmSplash", "Ombrelia Terrain Editor", 460, 280, Picture::Splash);
-    designLabel(frmSplash.Title, "Title", frmSplash, {24, 196, 420, 32}, "Ombrelia Terrain Editor",
-                {.size = 22, .color = skin::kTitle, .bold = true});
-    designLabel(frmSplash.Subtitle, "Subtitle", frmSplash, {25, 230, 420, 16},
-                "Landscapes for Ombrelia, drawn by hand or grown by chance",
-                {.size = 11, .color = skin::kText});
-    designLabel(frmSplash.Maker, "Maker", frmSplash, {25, 248, 200, 14}, "quillbyte",
-                {.size = 10, .color = skin::kAccent});
     designTimer(frmSplash.Timer1, "Timer1", frmSplash, kSplashMilliseconds);
 }
 

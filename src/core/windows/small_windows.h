@@ -5,11 +5,9 @@
 
 namespace ombrelia {
 
-// Splash at the start, About box later.
+// Splash at the start, About box later. Its lettering is part of its picture, so that nothing waits
+// for a font.
 struct SplashWindow : Window {
-    Label Title;
-    Label Subtitle;
-    Label Maker;
     Timer Timer1;  // 7000 ms
     SplashWindow();
 };

@@ -154,15 +154,18 @@ std::int16_t countParts(double stride) {
     return narrowTo<std::int16_t>(2 * levels - 1);
 }
 
-std::uint8_t byteOf(double x, double mean) {
-    double d = x - mean;
-    if (x < mean - kHalfBand) {
-        d = -kHalfBand;
-    } else if (x > mean + kHalfBand) {
-        d = kHalfBand;
+// Bytes of one row, 102..230; without branches, which the noise would mislead at every second
+// point.
+void bytesOfRow(const double* row, int count, double mean, std::uint8_t* bytes) {
+    const double low = mean - kHalfBand;
+    const double high = mean + kHalfBand;
+    for (int j = 0; j < count; ++j) {
+        const double x = row[j];
+        double d = x > high ? kHalfBand : x - mean;
+        d = x < low ? -kHalfBand : d;
+        d = (0.5 / (2 * kHalfBand)) * (d + kHalfBand);
+        bytes[j] = static_cast<std::uint8_t>(roundSmallToEven(255 * (d + 0.4)));
     }
-    d = (0.5 / (2 * kHalfBand)) * (d + kHalfBand);
-    return static_cast<std::uint8_t>(roundToEven(255 * (d + 0.4)));
 }
 
 double meanOf(const std::vector<double>& values, int points) {
@@ -235,15 +238,14 @@ bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
     const double mean = meanOf(values, size * size);
     constexpr std::uint8_t kThird = 230;  // 229.5 rounded
     announceFractalPart(FractalPart, cells - 1);
+    std::array<std::uint8_t, 256> firsts{};
     std::uint8_t* out = bytes.data();
     for (int i = 0; i <= cells - 1; ++i) {
-        const double* row = values.data() + size * i;
-        for (int j = 0; j <= cells - 1; ++j) {
-            const std::uint8_t byte = byteOf(row[j], mean);
-            out[0] = byte;
-            out[1] = byte;
+        bytesOfRow(values.data() + size * i, cells, mean, firsts.data());
+        for (int j = 0; j <= cells - 1; ++j, out += 3) {
+            out[0] = firsts[static_cast<std::size_t>(j)];
+            out[1] = firsts[static_cast<std::size_t>(j)];
             out[2] = kThird;
-            out += 3;
         }
         if (StopFlag == 1) {
             return false;

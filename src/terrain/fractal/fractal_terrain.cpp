@@ -1,5 +1,6 @@
 #include "terrain/fractal/fractal_terrain.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -77,6 +78,18 @@ class HeightLookup {
     std::array<std::int16_t, 256> heights_{};
 };
 
+// One column of the lattice; bytes that lie beyond the map are passed over.
+void placeColumn(int x, int step, const std::uint8_t* bytes, const HeightLookup& lookup) {
+    if (x > MapSize) {
+        return;
+    }
+    const int last = std::min<int>(MapSize, kLatticeExtent);
+    std::int16_t* cell = &HeightMap(x, 1);
+    for (int y = 1; y <= last; y += step, bytes += 3, cell += step * HeightGrid::kSide) {
+        *cell = lookup(bytes);
+    }
+}
+
 // Lays the bytes over the map, column by column. False when it was stopped.
 bool placeHeights(int step, const std::int16_t& height) {
     announceFractalPart(FractalPart + 1, kLatticeExtent);
@@ -84,11 +97,8 @@ bool placeHeights(int step, const std::int16_t& height) {
     const std::uint8_t* bytes = FractalBytes.data();
     for (int x = 0; x <= kLatticeExtent; x += step) {
         lookup.update(height);
-        for (int y = 1; y <= kLatticeExtent; y += step, bytes += 3) {
-            if (x <= MapSize && y <= MapSize) {
-                HeightMap(x, y) = lookup(bytes);
-            }
-        }
+        placeColumn(x, step, bytes, lookup);
+        bytes += 3 * (kLatticeExtent / step);
         ProgressDone = x;
         yieldToEvents();
         if (noteStop()) {
