@@ -1,0 +1,88 @@
+// Makes the documents' pictures of every window from the running program:
+//   picture_book FOLDER SUFFIX
+#include <QImage>
+#include <cstdio>
+#include <string>
+
+#include "core/objects.h"
+#include "panels/sliders.h"
+#include "platform/window_life.h"
+#include "stories.h"
+
+namespace ombrelia {
+
+namespace {
+
+struct Album {
+    ScreenDriver& driver;
+    std::string folder;
+    std::string suffix;
+
+    void add(const char* name, Window& window) const {
+        const std::string path = folder + "/" + name + "_" + suffix + ".png";
+        driver.pictureOf(window).save(QString::fromStdString(path));
+        std::printf("%s\n", path.c_str());
+    }
+};
+
+void setSlider(int slider, std::int16_t value) {
+    SliderValues(slider).Value = value;
+    PlaceSlider(slider);
+    showReadout(slider);
+}
+
+void showWaitWindow(const Album& album) {
+    album.driver.inProgram([] { showWindow(Form3); });
+    album.driver.waitForWindow(Form3);
+    album.add("wait", Form3);
+    album.driver.inProgram([] { unloadWindow(Form3); });
+}
+
+void tellStory(const Album& album) {
+    ScreenDriver& driver = album.driver;
+    driver.waitForWindow(frmSplash);
+    album.add("splash", frmSplash);
+    driver.click(frmSplash, 60, 60);
+    driver.waitForWindow(SizeSelect);
+    driver.moveTo(SizeSelect.NTool(button::kSizeLarge), 4, 4);
+    album.add("size", SizeSelect);
+    showWaitWindow(album);
+    driver.click(SizeSelect.LTool(button::kSizeLarge));
+    driver.waitForWindow(Form1);
+    album.add("hint", HelpFrm);
+    driver.click(Form1.NTool(button::kFractal + kOverlayOffset));
+    driver.moveTo(Form1, 5, 350);
+    album.add("fractal", Form1);
+    driver.inProgram([] {
+        setSlider(9, 3);
+        setSlider(10, 31);
+        setSlider(14, 5);
+    });
+    pressWide(driver, button::kGenerate);
+    driver.waitFor([] { return Form1.ProgressFrame.Visible; });
+    driver.rest(300);
+    album.add("progress", Form1);
+    driver.waitFor([] { return Form1.Picture1.Visible; });
+    driver.moveTo(Form1.MapView, 100, 120);
+    album.add("landscape", Form1);
+    pressWide(driver, button::kMenu);
+    album.add("menu", Form1);
+}
+
+}  // namespace
+
+}  // namespace ombrelia
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fprintf(stderr, "picture_book FOLDER SUFFIX\n");
+        return 2;
+    }
+    constexpr int kSlowYield = 1;
+    ombrelia::ScreenDriver::run(
+        [&](ombrelia::ScreenDriver& driver) {
+            ombrelia::tellStory({driver, argv[1], argv[2]});
+        },
+        kSlowYield);
+    return 0;
+}
