@@ -14,7 +14,8 @@ namespace ombrelia::scenario {
 namespace {
 
 void get(Session& session, const Fields& fields) {
-    std::cout << fields[0] << " = " << valueText(session, fields[0]) << "\n";
+    const std::string text = valueText(session, fields[0]);
+    std::cout << fields[0] << " = " << text << "\n";
 }
 
 void expect(Session& session, const Fields& fields) {

@@ -41,7 +41,7 @@ Session::Session() {
 }
 
 void Session::runLine(const std::string& text) {
-    ++line;
+    line = ++linesRead_;
     const Fields fields = splitFields(text);
     if (fields.empty()) {
         return;

@@ -19,7 +19,7 @@ class Session {
     HeadlessPlatform platform;
     bool ticksInYields = false;
 
-    // Number of the line that is being run, from 1.
+    // Number of the line that is being run, from 1; inside a yield, of the line that asked for it.
     int line = 0;
 
     // Runs one line. Throws LineError, ExpectFailed, NoDrawLeft or HandlerFailed.
@@ -45,6 +45,7 @@ class Session {
     void inYield();
     bool takeWaiting(long yield, Waiting& taken);
 
+    int linesRead_ = 0;
     std::vector<Waiting> waiting_;
     int yieldsOnStack_ = 0;
 };

@@ -55,8 +55,12 @@ void setSlider(Session& /*session*/, const Fields& fields) {
     runHandler([slider] { PlaceSlider(slider); });
 }
 
+bool isOfSizeDialog(int i) {
+    return i >= button::kSizeMiniature && i <= button::kSizeClose;
+}
+
 void paintButton(int i) {
-    if (i >= button::kSizeMiniature) {
+    if (isOfSizeDialog(i)) {
         DrawSizeButton(i);
     } else {
         DrawButton(i);
@@ -80,7 +84,7 @@ void makeCurrent(int button) {
 
 void setButton(Session& /*session*/, const Fields& fields) {
     const auto button = static_cast<int>(wholeNumber(fields[0], 0, kLastRecord));
-    checkLoaded(button >= button::kSizeMiniature ? static_cast<Window&>(SizeSelect) : Form1);
+    checkLoaded(isOfSizeDialog(button) ? static_cast<Window&>(SizeSelect) : Form1);
     const std::int16_t state = number16(fields[1]);
     runHandler([button, state] {
         if (OptionStates(button).Exclusive == kYes && state == kOn) {
