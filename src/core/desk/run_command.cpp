@@ -158,6 +158,7 @@ void RunCommand(int& i) {
     const bool isKnown = command != std::end(kCommands);
     if (isKnown && command->waitsForRun && isNested()) {
         putOff(number, [number] {
+            finishStop();  // the command clears the flag, which no tick would see any more
             int again = number;
             RunCommand(again);
         });

@@ -17,7 +17,8 @@ T takeFirst(std::deque<T>& queue, T ifEmpty) {
     return first;
 }
 
-// Line ends written as two letters, so that a call stays one line.
+}  // namespace
+
 std::string onOneLine(const std::string& text) {
     std::string line;
     for (const char c : text) {
@@ -31,8 +32,6 @@ std::string onOneLine(const std::string& text) {
     }
     return line;
 }
-
-}  // namespace
 
 void HeadlessPlatform::install() {
     services() = {this, this, this, this, this, this};
@@ -124,6 +123,7 @@ void HeadlessPlatform::minimize(Window& window) {
 void HeadlessPlatform::refresh(Control& /*control*/) {}
 
 void HeadlessPlatform::yield() {
+    ++Yields;
     if (OnYield) {
         OnYield();
     }

@@ -13,6 +13,9 @@
 
 namespace ombrelia {
 
+// Line ends written as two letters, so that a text stays one line.
+std::string onOneLine(const std::string& text);
+
 // A draw was asked for that no queue and no generator answers.
 struct NoDrawLeft {};
 
@@ -47,8 +50,10 @@ class HeadlessPlatform : public Dialogs,
     double Seconds = 43200;
     double SecondsPerReading = 0;
 
-    // Called inside each yield.
+    // Called inside each yield; Yields counts this one already. The counts of yields and draws go
+    // on over a restart.
     std::function<void()> OnYield;
+    long Yields = 0;
 
     // Requests in order, as `dump calls` writes them.
     std::vector<std::string> Calls;

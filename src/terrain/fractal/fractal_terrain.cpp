@@ -38,6 +38,8 @@ constexpr int kHeightSlider = 10;
 constexpr int kDetailSlider = 14;
 
 constexpr int kLatticeExtent = 256;  // map points that the lattice is laid over
+constexpr int kLowestDetail = 1;
+constexpr int kHighestDetail = 8;
 constexpr int kLastPoint = HeightGrid::kLast;
 constexpr int kBytesLast = 203162;  // last subscript of FractalBytes
 constexpr int kFullDetail = 256;    // lattice that needs no interpolation
@@ -184,7 +186,11 @@ void GenerateCommand() {
 }
 
 void GenerateFractalTerrain(double& h, std::int16_t& height) {
-    FractalSide = roundToInt16(std::pow(2.0, SliderValues(kDetailSlider).Value));
+    const int detail = SliderValues(kDetailSlider).Value;
+    if (detail < kLowestDetail || detail > kHighestDetail) {
+        throw SubscriptFailure(detail, kLowestDetail, kHighestDetail);
+    }
+    FractalSide = roundToInt16(std::pow(2.0, detail));
     prepareArrays();
     services().random->seedFromClock();
     FillFractalValues(FractalValues, FractalSide, 5, 1.0, h);

@@ -1,0 +1,196 @@
+// Commands that do what a user, the clock or the window system does.
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+#include "command.h"
+#include "core/button_numbers.h"
+#include "core/windows/form1.h"
+#include "errors.h"
+#include "names.h"
+#include "platform/dispatch.h"
+#include "ticks.h"
+
+namespace ombrelia::scenario {
+
+namespace {
+
+constexpr double kClickPlace = 2;
+constexpr long kManyTicks = 1000000;
+
+struct ButtonWord {
+    const char* word;
+    MouseButton button;
+};
+constexpr ButtonWord kButtons[] = {{"left", MouseButton::Left},
+                                   {"right", MouseButton::Right},
+                                   {"middle", MouseButton::Middle},
+                                   {"none", MouseButton::None}};
+
+MouseButton buttonNamed(const std::string& word) {
+    const auto* row = std::find_if(std::begin(kButtons), std::end(kButtons),
+                                   [&word](const ButtonWord& r) { return word == r.word; });
+    if (row == std::end(kButtons)) {
+        throw LineError{"there is no mouse button \"" + word + "\""};
+    }
+    return row->button;
+}
+
+bool isOnOff(const std::string& word) {
+    if (word != "on" && word != "off") {
+        throw LineError{"\"" + word + "\" is neither on nor off"};
+    }
+    return word == "on";
+}
+
+// CONTROL BUTTON X Y
+template <Event kEvent>
+void mouse(Session& /*session*/, const Fields& fields) {
+    Control& control = loadedControlNamed(fields[0]);
+    deliverMouse(control, kEvent, buttonNamed(fields[1]), realNumber(fields[2]),
+                 realNumber(fields[3]));
+}
+
+// What an earlier event of the same gesture did may have taken the window away.
+void sendLeft(Control& control, Event event, double x, double y) {
+    if (control.Owner->Loaded) {
+        deliverMouse(control, event, MouseButton::Left, x, y);
+    }
+}
+
+void clickOn(Control& control) {
+    for (const Event event : {Event::MouseDown, Event::MouseUp, Event::Click}) {
+        sendLeft(control, event, kClickPlace, kClickPlace);
+    }
+}
+
+void click(Session& /*session*/, const Fields& fields) {
+    clickOn(loadedControlNamed(fields[0]));
+}
+
+void doubleClick(Session& /*session*/, const Fields& fields) {
+    Control& control = loadedControlNamed(fields[0]);
+    const double x = realNumber(fields[1]);
+    const double y = realNumber(fields[2]);
+    for (const Event event : {Event::MouseDown, Event::MouseUp, Event::DblClick, Event::MouseUp}) {
+        sendLeft(control, event, x, y);
+    }
+}
+
+void drag(Session& /*session*/, const Fields& fields) {
+    Control& dragged = loadedControlNamed(fields[0]);
+    Control& onto = loadedControlNamed(fields[1]);
+    sendLeft(dragged, Event::MouseDown, kClickPlace, kClickPlace);
+    for (const Event event : {Event::DragOver, Event::DragDrop}) {
+        if (isEnabled(onto) && onto.Owner->Loaded) {
+            EventArgs args;
+            args.Dragged = &dragged;
+            deliver(onto, event, args);
+        }
+    }
+}
+
+void key(Session& /*session*/, const Fields& fields) {
+    EventArgs args;
+    args.KeyCode = static_cast<int>(wholeNumber(fields[1], 0, 255));
+    deliver(loadedWindowNamed(fields[0]), Event::KeyDown, args);
+}
+
+void fire(Session& /*session*/, const Fields& fields) {
+    Control& control = controlNamed(fields[0] + "." + fields[1]);
+    if (control.Kind != ControlKind::Timer) {
+        throw LineError{fields[1] + " is no timer"};
+    }
+    fireTimer(static_cast<Timer&>(control));
+}
+
+void tick(Session& /*session*/, const Fields& fields) {
+    const long ticks = fields.empty() ? 1 : wholeNumber(fields[0], 0, kManyTicks);
+    for (long i = 0; i < ticks; ++i) {
+        fireTimer(Form1.Timer1);
+    }
+}
+
+void switchTicks(Session& session, const Fields& fields) {
+    session.ticksInYields = isOnOff(fields[0]);
+}
+
+void onYield(Session& session, const Fields& fields) {
+    const long yields = wholeNumber(fields[0], 1, std::numeric_limits<std::int32_t>::max());
+    checkCommandWord(fields[1]);
+    session.runAtYield(yields, Fields(fields.begin() + 1, fields.end()));
+}
+
+void choose(Session& /*session*/, const Fields& fields) {
+    Control& control = loadedControlNamed(fields[0]);
+    if (control.Kind != ControlKind::ListBox) {
+        throw LineError{fields[0] + " is no list box"};
+    }
+    auto& list = static_cast<ListBox&>(control);
+    const long entry = wholeNumber(fields[1], 0, static_cast<long>(list.List.size()) - 1);
+    if (!isEnabled(list)) {
+        return;
+    }
+    list.ListIndex = static_cast<int>(entry);
+    list.Caption = list.List[static_cast<std::size_t>(entry)];
+    deliver(list, Event::Click);
+}
+
+void state(Session& /*session*/, const Fields& fields) {
+    Window& window = loadedWindowNamed(fields[0]);
+    if (fields[1] != "minimized" && fields[1] != "normal") {
+        throw LineError{"a window is minimized or normal"};
+    }
+    window.Minimized = fields[1] == "minimized";
+}
+
+void close(Session& /*session*/, const Fields& fields) {
+    deliverClose(loadedWindowNamed(fields[0]));
+}
+
+void start(Session& session, const Fields& fields) {
+    session.startProcess();
+    if (fields.empty()) {
+        return;
+    }
+    const long size = wholeNumber(fields[0], button::kSizeMiniature, button::kSizeImport);
+    clickOn(loadedControlNamed("frmSplash"));
+    clickOn(loadedControlNamed("SizeSelect.NTool(" + std::to_string(size) + ")"));
+}
+
+void restart(Session& session, const Fields& /*none*/) {
+    session.startProcess();
+}
+
+constexpr Command kCommands[] = {
+    {"start", 0, 1, Acts::Anywhere, start},
+    {"restart", 0, 0, Acts::Anywhere, restart},
+    {"press", 4, 4, Acts::OnEditor, mouse<Event::MouseDown>},
+    {"move", 4, 4, Acts::OnEditor, mouse<Event::MouseMove>},
+    {"release", 4, 4, Acts::OnEditor, mouse<Event::MouseUp>},
+    {"click", 1, 1, Acts::OnEditor, click},
+    {"doubleclick", 3, 3, Acts::OnEditor, doubleClick},
+    {"drag", 2, 2, Acts::OnEditor, drag},
+    {"key", 2, 2, Acts::OnEditor, key},
+    {"fire", 2, 2, Acts::OnEditor, fire},
+    {"tick", 0, 1, Acts::OnEditor, tick},
+    {"ticks", 1, 1, Acts::Anywhere, switchTicks},
+    {"on-yield", 2, kAnyNumber, Acts::Anywhere, onYield},
+    {"choose", 2, 2, Acts::OnEditor, choose},
+    {"state", 2, 2, Acts::OnEditor, state},
+    {"close", 1, 1, Acts::OnEditor, close},
+};
+
+}  // namespace
+
+void fireTimer(Timer& timer) {
+    if (timer.Enabled && timer.Owner->Loaded) {
+        deliver(timer, Event::Timer);
+    }
+}
+
+std::span<const Command> drivingCommands() {
+    return kCommands;
+}
+
+}  // namespace ombrelia::scenario

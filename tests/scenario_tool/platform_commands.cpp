@@ -1,0 +1,86 @@
+// Commands that set up what the platform will answer.
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+#include "command.h"
+#include "errors.h"
+
+namespace ombrelia::scenario {
+
+namespace {
+
+void queueRandom(Session& session, const Fields& fields) {
+    for (const std::string& field : fields) {
+        session.platform.RandomQueue.push_back(static_cast<float>(realNumber(field)));
+    }
+}
+
+void seedGenerator(Session& session, const Fields& fields) {
+    const long seed = wholeNumber(fields[0], 0, std::numeric_limits<std::uint32_t>::max());
+    session.platform.RandomState = static_cast<std::uint32_t>(seed);
+}
+
+void setClock(Session& session, const Fields& fields) {
+    session.platform.Seconds = realNumber(fields[0]);
+}
+
+void setClockStep(Session& session, const Fields& fields) {
+    session.platform.SecondsPerReading = realNumber(fields[0]);
+}
+
+void setSetting(Session& session, const Fields& fields) {
+    session.platform.write(fields[0], fields[1], fields[2]);
+}
+
+void answerSave(Session& session, const std::string& path) {
+    session.platform.SaveAnswers.push_back(path);
+}
+
+struct MessageAnswer {
+    const char* word;
+    int answer;
+};
+constexpr MessageAnswer kMessageAnswers[] = {
+    {"yes", kAnswerYes}, {"no", kAnswerNo}, {"ok", kAnswerOk}};
+
+void answerMessage(Session& session, const std::string& word) {
+    const auto* row = std::find_if(std::begin(kMessageAnswers), std::end(kMessageAnswers),
+                                   [&word](const MessageAnswer& r) { return word == r.word; });
+    if (row == std::end(kMessageAnswers)) {
+        throw LineError{"a message is answered by yes, no or ok"};
+    }
+    session.platform.MessageAnswers.push_back(row->answer);
+}
+
+struct DialogAnswer {
+    const char* dialog;
+    void (*queue)(Session& session, const std::string& answer);
+};
+constexpr DialogAnswer kDialogAnswers[] = {{"save", answerSave}, {"message", answerMessage}};
+
+void queueAnswer(Session& session, const Fields& fields) {
+    const auto* row = std::find_if(std::begin(kDialogAnswers), std::end(kDialogAnswers),
+                                   [&](const DialogAnswer& r) { return fields[0] == r.dialog; });
+    if (row == std::end(kDialogAnswers)) {
+        throw LineError{"there is no dialog \"" + fields[0] + "\""};
+    }
+    row->queue(session, fields[1]);
+}
+
+constexpr Command kCommands[] = {
+    {"random", 1, kAnyNumber, Acts::Anywhere, queueRandom},
+    {"random-lcg", 1, 1, Acts::Anywhere, seedGenerator},
+    {"clock", 1, 1, Acts::Anywhere, setClock},
+    {"clock-step", 1, 1, Acts::Anywhere, setClockStep},
+    {"setting", 3, 3, Acts::Anywhere, setSetting},
+    {"answer", 2, 2, Acts::Anywhere, queueAnswer},
+};
+
+}  // namespace
+
+std::span<const Command> platformCommands() {
+    return kCommands;
+}
+
+}  // namespace ombrelia::scenario
