@@ -98,8 +98,11 @@ double storedNumber(const std::string& text) {
         return 0;
     }
     const auto last = text.find_last_not_of(" \t");
-    const char* begin = text.data() + first + (text[first] == '+' ? 1 : 0);
+    const char* begin = text.data() + first;
     const char* end = text.data() + last + 1;
+    if (*begin == '+' && begin + 1 != end && begin[1] != '-') {
+        ++begin;
+    }
     double value = 0;
     const auto [stop, error] = std::from_chars(begin, end, value);
     return error == std::errc{} && stop == end && std::isfinite(value) ? value : 0;

@@ -42,8 +42,13 @@ std::string numberText(const std::string& text) {
 
 template <typename T>
 bool parseInto(T& number, const std::string& text) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc{} && end == text.data() + text.size();
+    T parsed{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), parsed);
+    if (error != std::errc{} || end != text.data() + text.size()) {
+        return false;
+    }
+    number = parsed;
+    return true;
 }
 
 bool parseInto(std::string& value, const std::string& text) {

@@ -70,7 +70,7 @@ struct ValueRow {
 // An element as text: numbers in decimal (reals so that they read back the same).
 std::string textOf(const ValueRow& row, const void* element);
 
-// Sets an element from text; false if the text is no such number.
+// Sets an element from text; false, and nothing set, if the text as a whole is no such number.
 bool setFromText(const ValueRow& row, void* element, const std::string& text);
 
 template <typename T>

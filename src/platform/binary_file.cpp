@@ -1,8 +1,10 @@
 #include "platform/binary_file.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -15,13 +17,30 @@ namespace {
 
 constexpr mode_t kNewFileMode = 0666;
 
+// A link whose end does not exist yet; opening it creates that end.
+bool leadsNowhere(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) != 0 && errno == ENOENT;
+}
+
+// Removes the file itself; links that lead to it stay.
+void removeFile(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> end(::realpath(path.c_str(), nullptr),
+                                                          &std::free);
+    if (end != nullptr) {
+        ::unlink(end.get());
+    }
+}
+
 }  // namespace
 
 BinaryFile::BinaryFile(std::string path) : path_(std::move(path)) {
     handle_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
     isNew_ = handle_ >= 0;
     if (!isNew_ && errno == EEXIST) {
+        const bool isLooseLink = leadsNowhere(path_);
         handle_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
+        isNew_ = handle_ >= 0 && isLooseLink;
     }
     if (handle_ < 0) {
         fail(errno);
@@ -77,7 +96,7 @@ void BinaryFile::fail(int errorNumber) const {
 
 void undoCreation(const std::string& path, bool wasNew) {
     if (wasNew) {
-        ::unlink(path.c_str());
+        removeFile(path);
     } else if (::truncate(path.c_str(), 0) != 0) {
         // Nothing more can be done; the failure that led here is reported.
         return;
