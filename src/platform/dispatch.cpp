@@ -121,6 +121,10 @@ bool isNested() {
     return state.depth > 1;
 }
 
+bool isHandling() {
+    return state.depth > 0;
+}
+
 void putOff(int key, std::function<void()> action) {
     state.putOff[key] = std::move(action);
     if (stopRequest != nullptr) {

@@ -33,6 +33,9 @@ void deliverClose(Window& window);
 // Whether the running handler was called inside a yield of another one.
 bool isNested();
 
+// Whether any handler is running.
+bool isHandling();
+
 // Puts an action off until the outermost handler has returned. A second action of the same kind
 // (told by its key) replaces the first.
 void putOff(int key, std::function<void()> action);

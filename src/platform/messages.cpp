@@ -27,6 +27,11 @@ std::string fileFailed(const std::string& action, const std::string& path,
            ". The map is unharmed.";
 }
 
+std::string settingsNotSaved(const std::string& path, const std::string& reason) {
+    return "Your preferences could not be saved in \"" + path + "\": " + reason +
+           ". The editor goes on; the map is unharmed.";
+}
+
 }  // namespace messages
 
 SubscriptFailure::SubscriptFailure(long index, long low, long high)

@@ -13,6 +13,9 @@ std::string missingPart(const std::string& what, int index);
 std::string fileFailed(const std::string& action, const std::string& path,
                        const std::string& reason);
 
+// The settings stay as they are on the disk.
+std::string settingsNotSaved(const std::string& path, const std::string& reason);
+
 // The questions of the editor, as they stand.
 inline constexpr const char* kNewMapQuestion = "Are you sure you want to start a new map?";
 inline constexpr const char* kNewMapTitle = "Start New Map?";

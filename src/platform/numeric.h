@@ -16,8 +16,8 @@ inline std::int64_t roundToEven(double value) {
     return std::llrint(value);
 }
 
-// The same for |value| below 2^31, in a form of which the compiler makes several at once: the sum with
-// 1.5 * 2^52 has no digits after the point, and its lowest bits are the result.
+// The same for |value| below 2^31, in a form of which the compiler makes several at once: the sum
+// with 1.5 * 2^52 has no digits after the point, and its lowest bits are the result.
 inline std::int32_t roundSmallToEven(double value) {
     constexpr double kShift = 6755399441055744.0;
     return static_cast<std::int32_t>(std::bit_cast<std::int64_t>(value + kShift));

@@ -97,11 +97,19 @@ void QtDesktop::run(const std::function<void()>& event) {
     try {
         runHandler(event);
     } catch (const ProcessEnd&) {
+        handled();
         QCoreApplication::exit(0);
         return;
     }
     sync();
+    handled();
     settleRegisters();
+}
+
+void QtDesktop::handled() {
+    if (OnHandled && !isHandling()) {
+        OnHandled();
+    }
 }
 
 void QtDesktop::sync() {

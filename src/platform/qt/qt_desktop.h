@@ -42,6 +42,9 @@ class QtDesktop : public Desktop {
     // A window was painted.
     void painted(Window& window);
 
+    // Called when the outermost handler has ended, and before the process does.
+    std::function<void()> OnHandled;
+
     // Called once, when the first window has been painted.
     std::function<void()> OnFirstPaint;
 
@@ -62,6 +65,7 @@ class QtDesktop : public Desktop {
   private:
     WindowView& viewOf(Window& window);
     void sync();
+    void handled();
     void showDocked(Window& host);
     void waitForFirstPicture(WindowView& view);
 

@@ -41,7 +41,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
 
     QtDesktop desktop;
     QtDialogs dialogs(desktop);
-    QtSettingsStore settings;
+    QtSettingsStore settings(dialogs);
     QtClock clock;
     GeneratorRandom random;
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
@@ -49,6 +49,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);
+    desktop.OnHandled = [&settings] { settings.save(); };
     desktop.run(parts.start);
     return QApplication::exec();
 }

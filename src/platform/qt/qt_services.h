@@ -1,11 +1,10 @@
 // The small services over the toolkit: dialogs, settings, clock, reports of failures.
 #pragma once
 
-#include <QSettings>
 #include <QString>
 #include <functional>
-#include <memory>
 
+#include "platform/ini_store.h"
 #include "platform/services.h"
 
 namespace ombrelia {
@@ -24,20 +23,17 @@ class QtDialogs : public Dialogs {
     QString folder_;
 };
 
-// An INI file in the user's configuration folder, written whole or not at all. Opened at the first
-// use; a malformed file is copied aside before the first write.
-class QtSettingsStore : public SettingsStore {
+// The user's settings file; what could not be saved is told once in a run.
+class QtSettingsStore : public IniStore {
   public:
-    std::string read(const std::string& section, const std::string& key,
-                     const std::string& ifMissing) override;
-    void write(const std::string& section, const std::string& key,
-               const std::string& value) override;
-    std::vector<std::pair<std::string, std::string>> enumerate(const std::string& section) override;
+    explicit QtSettingsStore(Dialogs& dialogs) : IniStore(userSettingsPath()), dialogs_(dialogs) {}
+
+    // Saves what was changed since the last time.
+    void save();
 
   private:
-    QSettings& file();
-
-    std::unique_ptr<QSettings> file_;
+    Dialogs& dialogs_;
+    bool hasTold_ = false;
 };
 
 class QtClock : public Clock {

@@ -1,0 +1,238 @@
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/ini_store.h"
+
+namespace ombrelia {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Folder {
+  public:
+    Folder() {
+        std::string pattern = (fs::temp_directory_path() / "ini_store_XXXXXX").string();
+        path_ = ::mkdtemp(pattern.data());
+    }
+    ~Folder() { fs::remove_all(path_); }
+    std::string file() const { return (path_ / "sub" / "settings.ini").string(); }
+    fs::path path() const { return path_; }
+
+  private:
+    fs::path path_;
+};
+
+std::string contents(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+void put(const std::string& path, const std::string& text) {
+    fs::create_directories(fs::path(path).parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+const std::string kOddTexts[] = {"",
+                                 " ",
+                                 "My set/x",
+                                 "a]b[c",
+                                 "=;#%41",
+                                 "two\nlines\r\n",
+                                 " edges ",
+                                 "\xd0\xa1\xd1\x82\xd0\xb5\xd0\xbf\xd1\x8c",
+                                 "back\\slash, comma",
+                                 std::string("nul\0inside", 10),
+                                 "\xff\xfe no utf-8"};
+
+// A store whose every value is the word, many of them.
+void fillWith(IniStore& store, const std::string& word) {
+    for (int i = 0; i < 400; ++i) {
+        store.write("Section" + std::to_string(i % 7), "Key" + std::to_string(i), word);
+    }
+}
+
+}  // namespace
+
+TEST(ini_store, a_missing_file_reads_as_the_defaults) {
+    const Folder folder;
+    IniStore store(folder.file());
+    EXPECT_EQ(store.read("Settings", "SavedBefore", "0"), "0");
+    EXPECT_TRUE(store.enumerate("Settings").empty());
+    EXPECT_EQ(store.commit(), "");
+    EXPECT_FALSE(fs::exists(folder.file())) << "nothing was changed, nothing is written";
+}
+
+TEST(ini_store, every_text_survives_as_section_key_and_value) {
+    const Folder folder;
+    {
+        IniStore store(folder.file());
+        for (const std::string& text : kOddTexts) {
+            store.write("ColorPal" + text, text, text);
+        }
+        ASSERT_EQ(store.commit(), "");
+    }
+    IniStore store(folder.file());
+    for (const std::string& text : kOddTexts) {
+        EXPECT_EQ(store.read("ColorPal" + text, text, "missing"), text);
+    }
+}
+
+TEST(ini_store, random_texts_survive) {
+    std::mt19937 random(20261121);
+    IniSections sections;
+    for (int i = 0; i < 2000; ++i) {
+        const auto text = [&] {
+            std::string bytes(random() % 12, ' ');
+            for (char& byte : bytes) {
+                byte = static_cast<char>(random());
+            }
+            return bytes;
+        };
+        sections[text()][text()] = text();
+    }
+    bool isMalformed = true;
+    EXPECT_EQ(parseIni(formatIni(sections), isMalformed), sections);
+    EXPECT_FALSE(isMalformed);
+}
+
+TEST(ini_store, entries_come_sorted_by_key) {
+    const Folder folder;
+    IniStore store(folder.file());
+    store.write("Settings", "b", "2");
+    store.write("Settings", "a", "1");
+    const std::vector<std::pair<std::string, std::string>> expected = {{"a", "1"}, {"b", "2"}};
+    EXPECT_EQ(store.enumerate("Settings"), expected);
+}
+
+TEST(ini_store, what_another_editor_wrote_meanwhile_stays) {
+    const Folder folder;
+    IniStore first(folder.file());
+    IniStore second(folder.file());
+    first.write("Settings", "mine", "1");
+    second.write("Settings", "yours", "2");
+    ASSERT_EQ(first.commit(), "");
+    ASSERT_EQ(second.commit(), "");
+    IniStore after(folder.file());
+    EXPECT_EQ(after.read("Settings", "mine", ""), "1");
+    EXPECT_EQ(after.read("Settings", "yours", ""), "2");
+}
+
+TEST(ini_store, a_malformed_file_is_copied_aside_before_the_first_write) {
+    const Folder folder;
+    const std::string garbage = "[Settings]\ngood=1\nno equals sign\nbad=%zz\n\x01\x02[half";
+    put(folder.file(), garbage);
+    IniStore store(folder.file());
+    EXPECT_EQ(store.read("Settings", "good", ""), "1");
+    EXPECT_EQ(store.read("Settings", "bad", "default"), "default");
+    EXPECT_FALSE(fs::exists(folder.file() + ".damaged"));
+    store.write("Settings", "new", "2");
+    ASSERT_EQ(store.commit(), "");
+    EXPECT_EQ(contents(folder.file() + ".damaged"), garbage);
+    EXPECT_EQ(contents(folder.file()), "[Settings]\ngood=1\nnew=2\n\n");
+}
+
+TEST(ini_store, a_file_cut_anywhere_reads_without_harm) {
+    IniSections sections;
+    sections["Settings"]["SavedBefore"] = "1";
+    sections["ColorPalMy set"]["110"] = "200";
+    const std::string whole = formatIni(sections);
+    for (std::size_t length = 0; length <= whole.size(); ++length) {
+        bool isMalformed = false;
+        const IniSections read = parseIni(whole.substr(0, length), isMalformed);
+        for (const auto& [section, entries] : read) {
+            EXPECT_TRUE(sections.contains(section)) << section;
+        }
+    }
+}
+
+TEST(ini_store, a_folder_that_cannot_be_made_is_told_with_file_and_reason) {
+    const Folder folder;
+    put(folder.file(), "");
+    const std::string path = folder.file() + "/below/settings.ini";
+    IniStore store(path);
+    store.write("Settings", "a", "1");
+    const std::string sentence = store.commit();
+    EXPECT_NE(sentence.find(path), std::string::npos) << sentence;
+    EXPECT_NE(sentence.find("Not a directory"), std::string::npos) << sentence;
+    EXPECT_EQ(store.read("Settings", "a", ""), "1") << "the run goes on with the value";
+}
+
+TEST(ini_store, a_disk_without_room_leaves_the_old_file) {
+    const Folder folder;
+    IniStore store(folder.file());
+    store.write("Settings", "a", "old");
+    ASSERT_EQ(store.commit(), "");
+    const std::string before = contents(folder.file());
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{64, 64};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        store.write("Settings", "a", std::string(1000, 'x'));
+        _exit(store.commit().find("File too large") == std::string::npos ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(contents(folder.file()), before);
+    EXPECT_FALSE(fs::exists(folder.file() + ".new"));
+}
+
+TEST(ini_store, a_link_stays_a_link) {
+    const Folder folder;
+    const std::string real = (folder.path() / "real.ini").string();
+    put(real, "");
+    fs::create_directories(fs::path(folder.file()).parent_path());
+    fs::create_symlink(real, folder.file());
+    IniStore store(folder.file());
+    store.write("Settings", "a", "1");
+    ASSERT_EQ(store.commit(), "");
+    EXPECT_TRUE(fs::is_symlink(folder.file()));
+    EXPECT_EQ(contents(real), "[Settings]\na=1\n\n");
+}
+
+TEST(ini_store, killed_while_writing_the_file_is_the_old_one_or_the_new_one) {
+    const Folder folder;
+    IniStore first(folder.file());
+    fillWith(first, "start");
+    ASSERT_EQ(first.commit(), "");
+    std::mt19937 random(7);
+    for (int round = 0; round < 200; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (int i = 0;; ++i) {
+                IniStore store(folder.file());
+                fillWith(store, i % 2 == 0 ? "even" : "odd");
+                store.commit();
+            }
+        }
+        usleep(static_cast<useconds_t>(random() % 6000));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        bool isMalformed = false;
+        const IniSections read = parseIni(contents(folder.file()), isMalformed);
+        ASSERT_FALSE(isMalformed);
+        const std::string word = read.at("Section0").at("Key0");
+        int entries = 0;
+        for (const auto& [section, keys] : read) {
+            for (const auto& [key, value] : keys) {
+                ASSERT_EQ(value, word) << "round " << round;
+                ++entries;
+            }
+        }
+        ASSERT_EQ(entries, 400);
+    }
+}
+
+}  // namespace ombrelia
