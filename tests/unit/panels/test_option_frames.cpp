@@ -1,0 +1,232 @@
+#include <cmath>
+
+#include "core/desk/run_command.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "editor_fixture.h"
+#include "panels/option_frames.h"
+#include "panels/sliders.h"
+
+namespace ombrelia {
+
+namespace {
+
+class OptionFrames : public EditorTest {
+  protected:
+    static int value() { return SliderValues(0).Value; }
+    static int most() { return SliderValues(0).Max; }
+
+    static void set(int stripValue) {
+        SliderValues(0).Value = static_cast<std::int16_t>(stripValue);
+        PlaceSlider(0);
+    }
+
+    static void expectFramesFollow() {
+        for (int j = 0; j <= 14; ++j) {
+            EXPECT_EQ(Form1.OptFrame(j).Top, 128 * j - value()) << j;
+        }
+    }
+};
+
+TEST_F(OptionFrames, stand_below_each_other_with_their_titles) {
+    const char* titles[] = {"Pencil Tool Options",
+                            "Line Tool Options",
+                            "Raise Terrain Tool Options",
+                            "Lower Terrain Tool Options",
+                            "Fractal Terrain Options",
+                            "2D View Options",
+                            "3D View Options",
+                            "Color Picker Options",
+                            "Mountain Options",
+                            "Canyon Options",
+                            "Plain Options",
+                            "Menu",
+                            "Refresh Preferences",
+                            "Extra Preferences",
+                            "Color Preferences"};
+    for (int i = 0; i <= 14; ++i) {
+        EXPECT_EQ(Form1.OptFrame(i).Top, 128 * i);
+        EXPECT_EQ(Form1.OptFrame(i).Left, 0);
+        EXPECT_EQ(Form1.OptFrame(i).Width, pictureInfo(Picture::OptionFrame).width);
+        EXPECT_EQ(Form1.OptFrame(i).Height, pictureInfo(Picture::OptionFrame).height - 1);
+        EXPECT_EQ(Form1.OptLabel(i).Caption, titles[i]);
+        EXPECT_EQ(Form1.OptBox(i).Width, pictureInfo(Picture::OptionCaption).width);
+        EXPECT_EQ(Form1.OptLabel(i).Width, Form1.OptBox(i).Width);
+    }
+}
+
+TEST_F(OptionFrames, the_strip_ends_12_below_its_last_frame) {
+    EXPECT_EQ(most(), 128 * 14 + Form1.OptFrame(14).Height - Form1.Picture1.innerHeight() + 12);
+    EXPECT_GT(most(), 0);
+    EXPECT_EQ(SliderValues(0).Orientation, 0);
+    EXPECT_EQ(SliderValues(0).Min, 0);
+    EXPECT_EQ(value(), 0);
+}
+
+TEST_F(OptionFrames, the_progress_panel_lies_over_the_strip) {
+    EXPECT_EQ(Form1.ProgressFrame.Left, Form1.Picture1.Left);
+    EXPECT_EQ(Form1.ProgressFrame.Top, Form1.Picture1.Top);
+    EXPECT_FALSE(Form1.ProgressFrame.Visible);
+}
+
+TEST_F(OptionFrames, every_frame_is_scrolled_to_by_its_number) {
+    for (const int frame : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 50, 51, 52, 53}) {
+        ScrollToFrame(frame);
+        EXPECT_EQ(value(), frame * 136 <= most() ? frame * 128 : most()) << frame;
+        expectFramesFollow();
+    }
+}
+
+TEST_F(OptionFrames, scroll_to_frame_has_two_factors) {
+    SliderValues(0).Max = 1359;  // room for frame 10 at 1280, but 10 * 136 is 1360
+    ScrollToFrame(10);
+    EXPECT_EQ(value(), 1359);
+    SliderValues(0).Max = 1360;
+    ScrollToFrame(10);
+    EXPECT_EQ(value(), 1280);
+    SliderValues(0).Max = 1767;
+    ScrollToFrame(13);
+    EXPECT_EQ(value(), 1767);
+    SliderValues(0).Max = 1768;
+    ScrollToFrame(13);
+    EXPECT_EQ(value(), 1664);
+}
+
+TEST_F(OptionFrames, a_held_arrow_moves_by_9_and_stops_short_of_the_ends) {
+    set(20);
+    holdArrow(true);
+    EXPECT_EQ(MouseState, 16);
+    EXPECT_EQ(Form1.ScrollUp(0).Face, (PictureFace{Picture::UpArrow, 1}));
+    for (const int expected : {11, 2, 2}) {
+        scrollHeldArrow();
+        EXPECT_EQ(value(), expected);
+    }
+    expectFramesFollow();
+    releaseArrow(true);
+    EXPECT_EQ(MouseState, 0);
+    EXPECT_EQ(Form1.ScrollUp(0).Face, (PictureFace{Picture::UpArrow, 0}));
+    set(most() - 20);
+    holdArrow(false);
+    EXPECT_EQ(MouseState, 17);
+    EXPECT_EQ(Form1.ScrollDown(0).Face, (PictureFace{Picture::DownArrow, 1}));
+    for (const int left : {11, 2, 2}) {
+        scrollHeldArrow();
+        EXPECT_EQ(value(), most() - left);
+    }
+    releaseArrow(false);
+    scrollHeldArrow();
+    EXPECT_EQ(value(), most() - 2);
+    EXPECT_EQ(Form1.ScrollDown(0).Face, (PictureFace{Picture::DownArrow, 0}));
+}
+
+TEST_F(OptionFrames, exactly_9_left_can_be_scrolled) {
+    set(9);
+    holdArrow(true);
+    scrollHeldArrow();
+    EXPECT_EQ(value(), 0);
+    set(most() - 9);
+    holdArrow(false);
+    scrollHeldArrow();
+    EXPECT_EQ(value(), most());
+}
+
+// The strip's thumb: the pointer's place from the thumb's top edge, in twips.
+TEST_F(OptionFrames, the_strips_thumb_follows_the_pointer_between_its_ends) {
+    Image& thumb = Form1.Scroller(0);
+    const double low = Form1.Filler(0).Top;
+    const double room = Form1.Filler(0).Height - thumb.Height;
+    beginStripThumbDrag(10 * 15);
+    EXPECT_EQ(SliderDragState, 2);
+    EXPECT_EQ(ThumbGrab, low + 10);
+    dragStripThumb(30 * 15);
+    EXPECT_EQ(thumb.Top, low + 20);
+    EXPECT_EQ(value(), std::floor(20 / room * most()));
+    EXPECT_EQ(ThumbGrab, low + 30);
+    expectFramesFollow();
+    dragStripThumb(static_cast<float>((room - 20) * 15));  // pointer at the last place inside
+    EXPECT_EQ(thumb.Top, low + room - 10);
+    dragStripThumb(11 * 15);  // pointer outside: the thumb stands
+    EXPECT_EQ(thumb.Top, low + room - 10);
+    endStripThumbDrag();
+    EXPECT_EQ(SliderDragState, 0);
+    dragStripThumb(-15);
+    EXPECT_EQ(thumb.Top, low + room - 10);
+}
+
+TEST_F(OptionFrames, the_strips_thumb_is_cut_back_at_its_ends) {
+    Image& thumb = Form1.Scroller(0);
+    const double low = Form1.Filler(0).Top;
+    beginStripThumbDrag(20 * 15);
+    dragStripThumb(5 * 15);  // 15 up from the top
+    EXPECT_EQ(thumb.Top, low);
+    EXPECT_EQ(value(), 0);
+    EXPECT_EQ(ThumbGrab, low + 5);
+}
+
+TEST_F(OptionFrames, a_dragged_frame_follows_the_pointer_one_to_one) {
+    set(500);
+    const double before = Form1.OptFrame(4).Top;
+    beginFrameDrag(4, 60);
+    EXPECT_EQ(MouseState, 7);
+    EXPECT_EQ(PanelGrabY, 60 + 4 * 128);
+    for (int step = 1; step <= 5; ++step) {
+        // The pointer goes down by 10 in the window; the frame has followed so far.
+        dragFrames(4, static_cast<float>(60 + 10));
+        EXPECT_EQ(Form1.OptFrame(4).Top, before + 10 * step);
+        EXPECT_EQ(value(), 500 - 10 * step);
+    }
+    dragFrames(4, 60);  // the pointer rests
+    EXPECT_EQ(value(), 450);
+    endFrameDrag();
+    EXPECT_EQ(MouseState, 0);
+    dragFrames(4, 100);
+    EXPECT_EQ(value(), 450);
+}
+
+TEST_F(OptionFrames, a_drag_beyond_an_end_leaves_the_strip) {
+    set(5);
+    beginFrameDrag(0, 60);
+    dragFrames(0, 70);  // would be -5
+    EXPECT_EQ(value(), 5);
+    EXPECT_EQ(PanelGrabY, 70);
+    dragFrames(0, 68);
+    EXPECT_EQ(value(), 7);
+    set(most() - 3);
+    beginFrameDrag(14, 60);
+    dragFrames(14, 50);
+    EXPECT_EQ(value(), most() - 3);
+}
+
+TEST_F(OptionFrames, a_move_at_exactly_0_is_skipped) {
+    set(500);
+    beginFrameDrag(4, 60);
+    dragFrames(4, 0);
+    EXPECT_EQ(value(), 500);
+    EXPECT_EQ(PanelGrabY, 60 + 4 * 128);
+}
+
+TEST_F(OptionFrames, the_ground_between_the_frames_can_be_dragged_too) {
+    set(0);
+    beginFrameDrag(-1, 60);
+    EXPECT_EQ(MouseState, 8);
+    EXPECT_EQ(PanelGrabY, 60);
+    dragFrames(-1, 50);
+    EXPECT_EQ(value(), 10);
+}
+
+TEST_F(OptionFrames, commands_bring_up_their_pages) {
+    const struct {
+        int command, frame;
+    } rows[] = {{16, 12}, {18, 11}, {0, 0}, {10, 10}, {50, 9}, {51, 14}, {53, 14}};
+    for (const auto& row : rows) {
+        set(77);
+        int command = row.command;
+        RunCommand(command);
+        EXPECT_EQ(value(), row.frame * 136 <= most() ? row.frame * 128 : most()) << row.command;
+    }
+}
+
+}  // namespace
+
+}  // namespace ombrelia

@@ -1,0 +1,193 @@
+#include <string>
+
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "editor_fixture.h"
+#include "panels/sliders.h"
+
+namespace ombrelia {
+
+namespace {
+
+struct TypedSlider {
+    int number;
+    int min, max, start;
+    Label Form1Window::*label;
+    const char* readout;
+};
+
+const TypedSlider kTyped[] = {
+    {1, 1, 20, 1, &Form1Window::lblThick, "1"},
+    {2, 1, 20, 1, &Form1Window::lblLineThick, "1"},
+    {3, 1, 20, 10, &Form1Window::lblRaiseAmount, "130m"},
+    {4, 1, 10, 4, &Form1Window::lblRes, "4"},
+    {5, 1, 10, 1, &Form1Window::lblWidth, "1"},
+    {6, 50, 255, 255, &Form1Window::lblHeightValue, "2912m"},
+    {7, 1, 30, 1, &Form1Window::lblSizeValue, "1"},
+    {8, 5, 30, 5, &Form1Window::lblPlainSize, "5"},
+    {9, 1, 20, 1, &Form1Window::lblRough, "1"},
+    {10, 20, 200, 60, &Form1Window::lblRoughHeight, "377m"},
+    {11, 1, 20, 4, &Form1Window::lblLowerAmount, "52m"},
+    {12, 2, 15, 3, &Form1Window::lblRiverWidth, "3"},
+    {13, 3, 25, 10, &Form1Window::lblBankWidth, "10"},
+    {14, 1, 8, 5, &Form1Window::lblDetail, "5"},
+};
+
+class Sliders : public EditorTest {
+  protected:
+    static double room(int i) { return Form1.VertFiller(i).Width - Form1.VertScroller(i).Width; }
+    static double place(int i) { return Form1.VertScroller(i).Left - Form1.VertFiller(i).Left; }
+
+    static void set(int i, int value) {
+        SliderValues(i).Value = static_cast<std::int16_t>(value);
+        PlaceSlider(i);
+    }
+
+    // Drags the thumb by pixels, held at its middle.
+    static void drag(int i, double pixels) {
+        beginThumbDrag(i, 5 * 15);
+        dragThumb(i, static_cast<float>((5 + pixels) * 15));
+    }
+};
+
+TEST_F(Sliders, start_as_the_table_says) {
+    for (const TypedSlider& row : kTyped) {
+        const auto n = [](int value) { return static_cast<std::int16_t>(value); };
+        EXPECT_EQ(SliderValues(row.number), (SliderRecord{1, n(row.start), n(row.max), n(row.min)}))
+            << row.number;
+        EXPECT_EQ((Form1.*row.label).Caption, row.readout) << row.number;
+        EXPECT_EQ(&Form1.readout(row.number), &(Form1.*row.label)) << row.number;
+    }
+    for (int i = 15; i <= 20; ++i) {
+        EXPECT_EQ(SliderValues(i), SliderRecord{});
+    }
+}
+
+TEST_F(Sliders, only_1_to_14_have_a_readout) {
+    EXPECT_THROW(Form1.readout(0), MissingPartFailure);
+    EXPECT_THROW(Form1.readout(15), MissingPartFailure);
+}
+
+TEST_F(Sliders, the_thumb_stands_where_the_value_lies) {
+    for (const TypedSlider& row : kTyped) {
+        set(row.number, row.min);
+        EXPECT_EQ(place(row.number), 0);
+        set(row.number, row.max);
+        EXPECT_EQ(place(row.number), room(row.number));
+        set(row.number, (row.min + row.max) / 2);
+        EXPECT_DOUBLE_EQ(place(row.number), static_cast<double>((row.min + row.max) / 2 - row.min) /
+                                                (row.max - row.min) * room(row.number));
+    }
+}
+
+TEST_F(Sliders, the_track_gets_its_picture_when_it_has_none) {
+    EXPECT_EQ(Form1.VertFiller(1).Face.picture, Picture::SliderTrack);
+    Form1.VertFiller(1).Face = {Picture::Range, 0};
+    PlaceSlider(1);
+    EXPECT_EQ(Form1.VertFiller(1).Face.picture, Picture::Range);
+    Form1.VertFiller(1).Face = {};
+    PlaceSlider(1);
+    EXPECT_EQ(Form1.VertFiller(1).Face.picture, Picture::SliderTrack);
+}
+
+TEST_F(Sliders, both_ends_of_a_drag_give_both_ends_of_the_range) {
+    for (const TypedSlider& row : kTyped) {
+        drag(row.number, 1000);
+        EXPECT_EQ(SliderValues(row.number).Value, row.max) << row.number;
+        EXPECT_EQ(place(row.number), room(row.number));
+        drag(row.number, -1000);
+        EXPECT_EQ(SliderValues(row.number).Value, row.min) << row.number;
+        EXPECT_EQ(place(row.number), 0);
+    }
+}
+
+TEST_F(Sliders, just_left_of_the_end_is_one_less_or_lower) {
+    for (const TypedSlider& row : kTyped) {
+        drag(row.number, 1000);
+        drag(row.number, -1);
+        EXPECT_EQ(place(row.number), room(row.number) - 1);
+        const double share = (room(row.number) - 1) / room(row.number);
+        EXPECT_EQ(SliderValues(row.number).Value,
+                  static_cast<int>(share * (row.max - row.min) + row.min));
+        EXPECT_LT(SliderValues(row.number).Value, row.max);
+    }
+}
+
+TEST_F(Sliders, the_thumb_keeps_its_offset_from_the_pointer) {
+    set(6, 50);
+    beginThumbDrag(6, 3 * 15);
+    dragThumb(6, (3 + 10) * 15);
+    EXPECT_EQ(place(6), 10);
+    dragThumb(6, (3 + 7) * 15);
+    EXPECT_EQ(place(6), 17);
+    EXPECT_EQ(SliderValues(6).Value, static_cast<int>(17.0 / room(6) * 205 + 50));
+    EXPECT_EQ(ThumbGrab, 3);
+}
+
+TEST_F(Sliders, the_grab_is_rounded_to_even) {
+    set(6, 50);
+    beginThumbDrag(6, 2.5F * 15);
+    EXPECT_EQ(ThumbGrab, 2);
+    EXPECT_EQ(place(6), 0.5);  // the press is a move of its own
+    beginThumbDrag(6, 3.5F * 15);
+    EXPECT_EQ(ThumbGrab, 4);
+    EXPECT_EQ(place(6), 0);
+}
+
+TEST_F(Sliders, readouts_follow_a_drag) {
+    drag(10, -1000);
+    EXPECT_EQ(Form1.lblRoughHeight.Caption, "-143m");
+    drag(6, -1000);
+    EXPECT_EQ(Form1.lblHeightValue.Caption, "247m");
+    drag(3, 1000);
+    EXPECT_EQ(Form1.lblRaiseAmount.Caption, "260m");
+    drag(14, 1000);
+    EXPECT_EQ(Form1.lblDetail.Caption, "8");
+}
+
+TEST_F(Sliders, a_wider_river_pushes_the_bank) {
+    drag(12, 1000);
+    EXPECT_EQ(SliderValues(12).Value, 15);
+    EXPECT_EQ(SliderValues(13).Value, 16);
+    EXPECT_EQ(Form1.lblBankWidth.Caption, "16");
+    EXPECT_DOUBLE_EQ(place(13), 13.0 / 22 * room(13));
+    EXPECT_EQ(Form1.lblRiverWidth.Caption, "15");
+}
+
+TEST_F(Sliders, a_narrower_bank_pushes_the_river) {
+    drag(13, -1000);
+    EXPECT_EQ(SliderValues(13).Value, 3);
+    EXPECT_EQ(SliderValues(12).Value, 2);
+    EXPECT_EQ(Form1.lblRiverWidth.Caption, "2");
+    EXPECT_EQ(place(12), 0);
+}
+
+TEST_F(Sliders, equal_widths_are_too_narrow_and_one_more_is_enough) {
+    set(13, 3);
+    set(12, 3);
+    drag(12, 0);
+    EXPECT_EQ(SliderValues(13).Value, 4);
+    set(12, 2);
+    set(13, 3);
+    drag(12, 0);
+    EXPECT_EQ(SliderValues(13).Value, 3);
+    drag(5, 1000);  // other sliders leave them alone
+    set(12, 9);
+    drag(5, -1000);
+    EXPECT_EQ(SliderValues(13).Value, 3);
+}
+
+TEST_F(Sliders, the_strip_moves_all_frames) {
+    set(0, 300);
+    for (int j = 0; j <= 14; ++j) {
+        EXPECT_EQ(Form1.OptFrame(j).Top, 128 * j - 300);
+    }
+    const double strip = Form1.Filler(0).Height - Form1.Scroller(0).Height;
+    EXPECT_DOUBLE_EQ(Form1.Scroller(0).Top,
+                     300.0 / SliderValues(0).Max * strip + Form1.Filler(0).Top);
+}
+
+}  // namespace
+
+}  // namespace ombrelia
