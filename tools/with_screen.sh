@@ -22,7 +22,7 @@ exec 3>"$scratch/display"
 Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp >"$scratch/xvfb.log" 2>&1 &
 screen=$!
 exec 3>&-
-for _ in $(seq 100); do
+for _ in $(seq 400); do
     [ -s "$scratch/display" ] && break
     sleep 0.05
 done
@@ -36,8 +36,10 @@ export XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch/runtime
 export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES="qt.qpa.*=false"
 openbox >"$scratch/openbox.log" 2>&1 &
 manager=$!
-for _ in $(seq 100); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q window && break
+for _ in $(seq 400); do
+    manages=$(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -c window) || :
+    [ "$manages" = 0 ] || break
     sleep 0.05
 done
+[ "$manages" != 0 ] || { echo "the window manager did not start" >&2; exit 1; }
 "$@"

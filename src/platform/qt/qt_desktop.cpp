@@ -83,27 +83,55 @@ double QtDesktop::dockedWidth(const Window& window) const {
 }
 
 WindowView& QtDesktop::viewOf(Window& window) {
-    auto& view = views_[&window];
-    if (view == nullptr) {
-        view = new WindowView(window, *this);
-        if (window.DockedTo == nullptr) {
-            view->place();
-        }
+    const auto found = views_.find(&window);
+    if (found != views_.end()) {
+        return *found->second;
+    }
+    auto* view = new WindowView(window, *this);
+    views_[&window] = view;
+    if (window.DockedTo == nullptr) {
+        view->place();
     }
     return *view;
 }
 
-void QtDesktop::run(const std::function<void()>& event) {
+// False when the process is to end.
+bool QtDesktop::runOrEnd(const std::function<void()>& event) {
     try {
         runHandler(event);
     } catch (const ProcessEnd&) {
         handled();
         QCoreApplication::exit(0);
-        return;
+        return false;
     }
-    sync();
+    return true;
+}
+
+void QtDesktop::run(const std::function<void()>& event) {
+    if (runOrEnd(event)) {
+        wakeTimers();
+        sync();
+        handled();
+        settleRegisters();
+    }
+}
+
+bool QtDesktop::runTick(const std::function<void()>& event) {
+    if (!runOrEnd(event)) {
+        return false;
+    }
+    const bool isChanged = sync();
     handled();
     settleRegisters();
+    return isChanged;
+}
+
+void QtDesktop::wakeTimers() {
+    for (const auto& [window, view] : views_) {
+        if (window->Loaded) {
+            view->syncTimers();
+        }
+    }
 }
 
 void QtDesktop::handled() {
@@ -112,13 +140,14 @@ void QtDesktop::handled() {
     }
 }
 
-void QtDesktop::sync() {
+bool QtDesktop::sync() {
+    bool isChanged = false;
     for (const auto& [window, view] : views_) {
         if (window->Loaded) {
-            view->syncTimers();
-            view->sync();
+            isChanged = view->sync() || isChanged;
         }
     }
+    return isChanged;
 }
 
 void QtDesktop::painted(Window& /*window*/) {
@@ -219,6 +248,7 @@ void QtDesktop::yield() {
     } else if (sinceEvents_.nsecsElapsed() < kYieldNanoseconds) {
         return;
     }
+    wakeTimers();
     sync();
     QCoreApplication::processEvents();
     settleRegisters();

@@ -39,6 +39,13 @@ class QtDesktop : public Desktop {
     // asked.
     void run(const std::function<void()>& event);
 
+    // The same for a tick of a timer, which wakes no resting one; true if it changed anything that
+    // is seen.
+    bool runTick(const std::function<void()>& event);
+
+    // Starts the timers that rest because nothing had changed.
+    void wakeTimers();
+
     // A window was painted.
     void painted(Window& window);
 
@@ -64,8 +71,10 @@ class QtDesktop : public Desktop {
 
   private:
     WindowView& viewOf(Window& window);
-    void sync();
+    // Shows what changed; true if anything had.
+    bool sync();
     void handled();
+    bool runOrEnd(const std::function<void()>& event);
     void showDocked(Window& host);
     void waitForFirstPicture(WindowView& view);
 

@@ -20,6 +20,9 @@ namespace {
 // A timer of the logic fires at most once in a display frame.
 constexpr int kFrameMilliseconds = 16;
 
+// Ticks without any change after which a timer of every frame rests.
+constexpr int kQuietTicks = 4;
+
 MouseButton buttonOf(Qt::MouseButton button) {
     switch (button) {
         case Qt::LeftButton:
@@ -70,13 +73,15 @@ void WindowView::place() {
     window_.Top = pos().y() / logicalPerUnit;
 }
 
-void WindowView::followRecord() {
+bool WindowView::followRecord() {
     const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
     const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
                         static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
-    if (target != pos()) {
-        move(target);
+    if (target == pos()) {
+        return false;
     }
+    move(target);
+    return true;
 }
 
 WindowView::Shown WindowView::lookOf(const Control& control) const {
@@ -105,10 +110,8 @@ QRect WindowView::logicalRect(const QRect& device) const {
         .toAlignedRect();
 }
 
-void WindowView::sync() {
-    if (window_.DockedTo != nullptr) {
-        followRecord();
-    }
+bool WindowView::sync() {
+    bool isDifferent = window_.DockedTo != nullptr && followRecord();
     if (shown_.size() != window_.Controls.size()) {
         shown_.assign(window_.Controls.size(), {});
         update();
@@ -118,22 +121,25 @@ void WindowView::sync() {
         if (look != shown_[i]) {
             update(logicalRect(look.rect | shown_[i].rect));
             shown_[i] = std::move(look);
+            isDifferent = true;
         }
     }
+    return isDifferent;
 }
 
 void WindowView::syncTimers() {
-    for (const Control* control : window_.Controls) {
+    for (Control* control : window_.Controls) {
         if (control->Kind != ControlKind::Timer) {
             continue;
         }
-        const auto* timer = static_cast<const Timer*>(control);
-        QBasicTimer& system = timers_[timer];
+        auto* timer = static_cast<Timer*>(control);
+        SystemTimer& system = timers_[timer];
+        system.quietTicks = 0;
         const bool isWanted = window_.Loaded && timer->Enabled && timer->Interval > 0;
-        if (isWanted && !system.isActive()) {
-            system.start(std::max(kFrameMilliseconds, timer->Interval), this);
+        if (isWanted && !system.basic.isActive()) {
+            system.basic.start(std::max(kFrameMilliseconds, timer->Interval), this);
         } else if (!isWanted) {
-            system.stop();
+            system.basic.stop();
         }
     }
 }
@@ -273,16 +279,33 @@ void WindowView::moveEvent(QMoveEvent* /*event*/) {
     const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
     window_.Left = pos().x() / logicalPerUnit;
     window_.Top = pos().y() / logicalPerUnit;
+    desktop_.wakeTimers();
 }
 
 void WindowView::timerEvent(QTimerEvent* event) {
-    for (const auto& [timer, system] : timers_) {
-        if (system.timerId() == event->timerId()) {
-            auto& control = const_cast<Timer&>(*timer);
-            desktop_.run([&control] { deliver(control, Event::Timer); });
+    for (auto& [timer, system] : timers_) {
+        if (system.basic.timerId() == event->timerId()) {
+            tick(*timer, system);
             return;
         }
     }
+}
+
+void WindowView::tick(Timer& timer, SystemTimer& system) {
+    const QPointer<WindowView> self(this);
+    const bool isChanged = desktop_.runTick([&timer] { deliver(timer, Event::Timer); });
+    if (self.isNull() || timer.Interval >= kFrameMilliseconds) {
+        return;
+    }
+    system.quietTicks = isChanged ? 0 : system.quietTicks + 1;
+    if (system.quietTicks >= kQuietTicks && !isHandling()) {
+        system.basic.stop();
+    }
+}
+
+void WindowView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    desktop_.wakeTimers();
 }
 
 }  // namespace ombrelia

@@ -22,21 +22,21 @@ class WindowView : public QWidget {
     const Window& window() const { return window_; }
 
     // Asks for a repaint of every part that differs from what was last painted; follows the
-    // record's place where the window is docked.
-    void sync();
+    // record's place where the window is docked. True if anything differed.
+    bool sync();
 
     // Sets the size on the screen for a scale and puts the window in the middle, with room for what
     // docks to it.
     void place();
 
-    // Starts and stops the system timers to match the record.
+    // Starts and stops the system timers to match the record; a resting one starts again.
     void syncTimers();
 
     // The press that is being handled may become a move of the window.
     void armMove() { isMoveArmed_ = true; }
 
-    // Moves the window to the place in its record.
-    void followRecord();
+    // Moves the window to the place in its record; true if it was elsewhere.
+    bool followRecord();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -48,8 +48,15 @@ class WindowView : public QWidget {
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
+    // A timer of every frame rests after some ticks that changed nothing, until the next event.
+    struct SystemTimer {
+        QBasicTimer basic;
+        int quietTicks = 0;
+    };
+
     // What a part looked like when it was last painted.
     struct Shown {
         QRect rect;
@@ -65,13 +72,14 @@ class WindowView : public QWidget {
     QPointF unitsOf(const QPointF& logical) const;
     void deliverTo(Control& control, Event event, MouseButton button, const QPointF& units);
     void press(QMouseEvent* event);
+    void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
     QRect logicalRect(const QRect& device) const;
 
     Window& window_;
     QtDesktop& desktop_;
     std::vector<Shown> shown_;
-    std::map<const Timer*, QBasicTimer> timers_;
+    std::map<Timer*, SystemTimer> timers_;
 
     Control* captured_ = nullptr;  // got the press of the held button
     MouseButton heldButton_ = MouseButton::None;
