@@ -156,7 +156,7 @@ std::string ScreenDriver::dialogText() {
     std::string text;
     inProgram([&] {
         if (auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            text = box->text().toStdString();
+            text = box->informativeText().toStdString();
         }
     });
     return text;

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QTime>
 
+#include "platform/qt/dialog_dress.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_view.h"
 
@@ -14,7 +15,6 @@ namespace {
 
 constexpr int kYesNoButtons = 4;
 constexpr int kButtonMask = 7;
-constexpr int kStopIcon = 16;
 constexpr int kSecondDefault = 256;
 
 // "Name|pattern|Name|pattern" in the toolkit's form.
@@ -33,6 +33,7 @@ QString toolkitFilter(const std::string& filter) {
 }  // namespace
 
 std::string QtDialogs::askSaveFile(const std::string& title, const std::string& filter) {
+    dressApplication(desktop_.scale());
     const QString path = QFileDialog::getSaveFileName(
         desktop_.dialogParent(), QString::fromStdString(title), folder_, toolkitFilter(filter));
     if (!path.isEmpty()) {
@@ -42,12 +43,15 @@ std::string QtDialogs::askSaveFile(const std::string& title, const std::string& 
 }
 
 int QtDialogs::message(const std::string& text, int style, const std::string& title) {
+    dressApplication(desktop_.scale());
     QMessageBox box(desktop_.dialogParent());
     box.setWindowTitle(QString::fromStdString(title));
-    box.setText(QString::fromStdString(text));
     box.setTextFormat(Qt::PlainText);
-    box.setIcon((style & kStopIcon) != 0 ? QMessageBox::Critical : QMessageBox::Information);
-    if ((style & kButtonMask) == kYesNoButtons) {
+    box.setText(QString::fromStdString(title));
+    box.setInformativeText(QString::fromStdString(text));
+    const bool isQuestion = (style & kButtonMask) == kYesNoButtons;
+    dressMessageBox(box, desktop_.skin(), desktop_.scale(), isQuestion);
+    if (isQuestion) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton((style & kSecondDefault) != 0 ? QMessageBox::No : QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::No);

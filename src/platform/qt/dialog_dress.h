@@ -1,0 +1,17 @@
+// The look of the toolkit's own dialogs, so that they belong to the skin's windows.
+#pragma once
+
+class QMessageBox;
+
+namespace ombrelia {
+
+class Skin;
+
+// Colours and letters of every dialog that the toolkit draws itself; the desktop's own stay as they
+// are. scale: device pixels to a unit. Cheap after the first call.
+void dressApplication(double scale);
+
+// A message box without a system frame, in the skin's colours, with one of its pictures as icon.
+void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool isQuestion);
+
+}  // namespace ombrelia
