@@ -138,6 +138,16 @@ TEST_F(Bindings, a_reset_gives_every_part_its_designed_state) {
     }
 }
 
+TEST_F(Bindings, no_value_stands_in_two_rows) {
+    std::set<const void*> elements;
+    for (const ValueRow& row : allValues()) {
+        bool isNew = true;
+        forEachElement(row,
+                       [&](void* element) { isNew = elements.insert(element).second && isNew; });
+        EXPECT_TRUE(isNew) << row.name << ' ' << row.field;
+    }
+}
+
 TEST_F(Bindings, names_of_values_are_unique) {
     std::set<std::string> names;
     for (const ValueRow& row : allValues()) {

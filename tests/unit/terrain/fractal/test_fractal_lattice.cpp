@@ -25,7 +25,7 @@ double at(int i, int j) {
     return static_cast<double>(1L << (j + 5 * i));
 }
 
-TEST(FractalLattice, square_average_is_uneven) {
+TEST(FractalLattice, the_lower_left_corner_counts_twice) {
     const auto v = tellingValues();
     EXPECT_EQ(AverageSquareCorners(2, 2, 2, 5, v.data()),
               (at(0, 0) + at(0, 4) + 2 * at(4, 0)) * 0.25);
@@ -106,6 +106,15 @@ TEST_F(FilledLattice, the_corner_of_the_first_point_stays_0) {
     const auto values = fill(16, 0.1);
     EXPECT_EQ(values[0], 0);
     EXPECT_EQ(values.back(), 0);
+}
+
+TEST_F(FilledLattice, square_average_is_uneven) {
+    // The first point of the second level has no noise of its own.
+    platform.RandomQueue = {0.9F, 0.7F, 0.2F, 0.5F};
+    const auto v = fill(4, 1.0);
+    EXPECT_NE(v[2], 0);
+    EXPECT_NE(v[5 * 2], v[2 + 5 * 2]);
+    EXPECT_EQ(v[1 + 5 * 1], (v[0] + v[2] + v[5 * 2] + v[5 * 2]) * 0.25);
 }
 
 TEST_F(FilledLattice, the_noise_decays_by_the_ratio_from_level_to_level) {
