@@ -37,7 +37,8 @@ export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES="qt.qpa.*=false"
 openbox >"$scratch/openbox.log" 2>&1 &
 manager=$!
 for _ in $(seq 400); do
-    manages=$(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -c window) || :
+    # Written when the manager has taken over every window; one that comes earlier can be lost.
+    manages=$(xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -c 'window id') || :
     [ "$manages" = 0 ] || break
     sleep 0.05
 done

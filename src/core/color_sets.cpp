@@ -109,9 +109,9 @@ double storedNumber(const std::string& text) {
 }
 
 std::int16_t storedInt16(double value) {
-    constexpr double kLow = std::numeric_limits<std::int16_t>::min();
-    constexpr double kHigh = std::numeric_limits<std::int16_t>::max();
-    return value >= kLow && value <= kHigh ? roundToInt16(value) : std::int16_t{0};
+    constexpr double kLow = std::numeric_limits<std::int16_t>::min() - 0.5;
+    constexpr double kHigh = std::numeric_limits<std::int16_t>::max() + 0.5;
+    return value >= kLow && value < kHigh ? roundToInt16(value) : std::int16_t{0};
 }
 
 }  // namespace ombrelia

@@ -65,6 +65,26 @@ std::span<const std::uint8_t> bytesOf(const std::string& text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
+// Takes away what this save has made, unless it was finished.
+class CreationGuard {
+  public:
+    CreationGuard(const std::string& path, bool wasNew) : path_(path), wasNew_(wasNew) {}
+    ~CreationGuard() {
+        if (!isKept_) {
+            undoCreation(path_, wasNew_);
+        }
+    }
+    CreationGuard(const CreationGuard&) = delete;
+    CreationGuard& operator=(const CreationGuard&) = delete;
+
+    void keep() { isKept_ = true; }
+
+  private:
+    const std::string& path_;
+    bool wasNew_;
+    bool isKept_ = false;
+};
+
 }  // namespace
 
 void BuildBitmapHeader(std::string& header, std::int16_t mapSize) {
@@ -89,32 +109,25 @@ void BuildBitmapHeader(std::string& header, std::int16_t mapSize) {
 }
 
 void WriteTerrainBitmap(const std::string& fileName, std::int16_t mapSize, std::int16_t& result) {
-    bool wasNew = false;
-    {
-        BinaryFile probe(fileName);
-        wasNew = probe.isNew();
-        if (probe.length() != 0) {
-            // Required: what holds something is never replaced, and no word is said
-            // (a_second_save_changes_nothing).
-            result = 1;
-            return;
-        }
-        probe.close();
+    BinaryFile probe(fileName);
+    if (probe.length() != 0) {
+        // Required: what holds something is never replaced, and no word is said
+        // (a_second_save_changes_nothing).
+        result = 1;
+        return;
     }
+    CreationGuard guard(fileName, probe.isNew());
+    probe.close();
     std::string bytes;
     bytes.reserve(fieldsOf(mapSize).fileBytes);
     BuildBitmapHeader(bytes, mapSize);
     for (int y = mapSize - 1; y >= 0; --y) {
         appendRow(bytes, y, mapSize);
     }
-    try {
-        BinaryFile file(fileName);
-        file.write(bytesOf(bytes));
-        file.close();
-    } catch (...) {
-        undoCreation(fileName, wasNew);
-        throw;
-    }
+    BinaryFile file(fileName);
+    file.write(bytesOf(bytes));
+    file.close();
+    guard.keep();
 }
 
 void SaveCommand() {

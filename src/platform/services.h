@@ -71,6 +71,9 @@ class Desktop {
     virtual void yield() = 0;
     // Lets the user move the window by the press that is being handled.
     virtual void beginWindowMove(Window& window) = 0;
+    // The press that is being handled begins a drag of the control: what lies under the pointer gets
+    // DragOver at each move and DragDrop at the release, in place of the control's own events.
+    virtual void beginDrag(Control& source) = 0;
     // Caption of this program's active window; empty if another program's is active.
     virtual std::string activeWindowCaption() = 0;
     virtual void openWebPage(const std::string& address) = 0;

@@ -60,18 +60,30 @@ void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yiel
     static char* arguments[] = {name, nullptr};
     ScreenDriver driver;
     std::thread person;
-    bindEvents();
-    runProgram(1, arguments,
-               {[&] {
-                    startEditor();
-                    person = std::thread([&] {
-                        story(driver);
-                        QMetaObject::invokeMethod(
-                            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
-                    });
-                },
-                repairAfterFailure, Form1.Width + HelpFrm.Width, Form1.Height, yieldMilliseconds});
+    resetProcess();
+    const int status = runProgram(
+        1, arguments,
+        {[&] {
+             startEditor();
+             person = std::thread([&] {
+                 story(driver);
+                 if (!driver.hasEnded_) {
+                     QMetaObject::invokeMethod(
+                         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+                 }
+             });
+         },
+         repairAfterFailure, Form1.Width + HelpFrm.Width, Form1.Height, yieldMilliseconds});
+    EXPECT_EQ(status, 0);
+    driver.hasEnded_ = true;
     person.join();
+}
+
+void ScreenDriver::waitUntilEnded() {
+    for (int waited = 0; waited < kPatienceMilliseconds && !hasEnded_; waited += 20) {
+        rest(20);
+    }
+    EXPECT_TRUE(hasEnded_) << "the program did not end";
 }
 
 void ScreenDriver::inProgram(const std::function<void()>& work) {

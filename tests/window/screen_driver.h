@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <atomic>
 #include <functional>
 #include <string>
 
@@ -45,10 +46,15 @@ class ScreenDriver {
 
     double scale();
 
+    // Waits until the program has ended by itself; the story must end there.
+    void waitUntilEnded();
+
     // Lets the program settle.
     void rest(int milliseconds = 120);
 
   private:
+    std::atomic<bool> hasEnded_ = false;
+
     void tell(const std::string& words);
 };
 

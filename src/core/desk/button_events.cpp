@@ -7,6 +7,7 @@
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
+#include "platform/services.h"
 
 namespace ombrelia {
 
@@ -75,6 +76,9 @@ void clearHover() {
 }
 
 void NTool_MouseDown(EventArgs& args) {
+    if (args.Index == button::kVolcano + kOverlayOffset && EggArmed == 1) {
+        services().desktop->beginDrag(*args.Source);
+    }
     if (args.Button != MouseButton::Left) {
         return;
     }

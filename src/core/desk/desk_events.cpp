@@ -61,6 +61,21 @@ void Label32_Click(EventArgs& /*args*/) {
     services().desktop->openWebPage(kMakerPage);
 }
 
+void Label32_DragOver(EventArgs& /*args*/) {
+    Form1.Label11.Caption = "Let go of me here!";
+}
+
+void Label32_DragDrop(EventArgs& /*args*/) {
+    if (EggArmed == 1) {
+        EggArmed = 0;
+        Form1.Label11.Caption = AppName;
+    }
+}
+
+void Ground_DragDrop(EventArgs& /*args*/) {
+    Form1.Label11.Caption = AppName;
+}
+
 void VertScroller_MouseDown(EventArgs& args) {
     beginThumbDrag(args.Index, args.X);
 }

@@ -37,7 +37,6 @@ constexpr GroupStart kGroupStarts[] = {
 };
 
 void fillGroups() {
-    GroupCurrent.fill(0);
     for (const GroupStart& row : kGroupStarts) {
         GroupCurrent(row.group) = row.button;
     }

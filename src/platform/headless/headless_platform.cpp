@@ -131,6 +131,10 @@ void HeadlessPlatform::yield() {
 
 void HeadlessPlatform::beginWindowMove(Window& /*window*/) {}
 
+void HeadlessPlatform::beginDrag(Control& source) {
+    Dragged = &source;
+}
+
 std::string HeadlessPlatform::activeWindowCaption() {
     return ActiveCaption;
 }

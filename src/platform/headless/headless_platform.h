@@ -62,6 +62,9 @@ class HeadlessPlatform : public Dialogs,
     // Section, then key, then value.
     std::map<std::string, std::map<std::string, std::string>> Settings;
 
+    // The control whose drag began last; none before the first.
+    Control* Dragged = nullptr;
+
     // Sentences of failures; with ThrowOnFailure the first one ends the event instead.
     std::vector<std::string> Failures;
     bool ThrowOnFailure = false;
@@ -86,6 +89,7 @@ class HeadlessPlatform : public Dialogs,
     void refresh(Control& control) override;
     void yield() override;
     void beginWindowMove(Window& window) override;
+    void beginDrag(Control& source) override;
     std::string activeWindowCaption() override;
     void openWebPage(const std::string& address) override;
     void end() override;

@@ -259,6 +259,10 @@ void QtDesktop::beginWindowMove(Window& window) {
     viewOf(window).armMove();
 }
 
+void QtDesktop::beginDrag(Control& source) {
+    viewOf(*source.Owner).beginDrag(source);
+}
+
 std::string QtDesktop::activeWindowCaption() {
     const auto* view = dynamic_cast<WindowView*>(QApplication::activeWindow());
     return view == nullptr ? std::string() : view->windowTitle().toStdString();

@@ -65,6 +65,7 @@ class QtDesktop : public Desktop {
     void refresh(Control& control) override;
     void yield() override;
     void beginWindowMove(Window& window) override;
+    void beginDrag(Control& source) override;
     std::string activeWindowCaption() override;
     void openWebPage(const std::string& address) override;
     void end() override;

@@ -181,6 +181,22 @@ void WindowView::press(QMouseEvent* event) {
     deliverTo(*captured_, Event::MouseDown, heldButton_, units);
 }
 
+void WindowView::beginDrag(Control& source) {
+    dragged_ = &source;
+    const QRect place = deviceRect(source, desktop_.scale());
+    QPixmap icon =
+        QPixmap::fromImage(desktop_.skin().face(source.Face, place.width(), place.height()));
+    icon.setDevicePixelRatio(devicePixelRatioF());
+    setCursor(QCursor(icon));
+}
+
+void WindowView::deliverDrag(Event event, const QPointF& units) {
+    Control& under = controlAt(window_, units.x(), units.y());
+    EventArgs args;
+    args.Dragged = dragged_;
+    desktop_.run([&] { deliver(under, event, args); });
+}
+
 void WindowView::mousePressEvent(QMouseEvent* event) {
     if (captured_ != nullptr) {
         return;  // one button at a time
@@ -234,7 +250,9 @@ void WindowView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const QPointF units = unitsOf(event->position());
-    if (captured_ != nullptr) {
+    if (dragged_ != nullptr) {
+        deliverDrag(Event::DragOver, units);
+    } else if (captured_ != nullptr) {
         deliverTo(*captured_, Event::MouseMove, heldButton_, units);
     } else {
         deliverTo(controlAt(window_, units.x(), units.y()), Event::MouseMove, MouseButton::None,
@@ -253,6 +271,12 @@ void WindowView::mouseReleaseEvent(QMouseEvent* event) {
     const MouseButton button = heldButton_;
     captured_ = nullptr;
     heldButton_ = MouseButton::None;
+    if (dragged_ != nullptr) {
+        unsetCursor();
+        deliverDrag(Event::DragDrop, units);
+        dragged_ = nullptr;
+        return;
+    }
     const QPointer<WindowView> self(this);
     deliverTo(control, Event::MouseUp, button, units);
     if (self.isNull() || !window_.Loaded) {

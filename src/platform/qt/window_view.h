@@ -35,6 +35,9 @@ class WindowView : public QWidget {
     // The press that is being handled may become a move of the window.
     void armMove() { isMoveArmed_ = true; }
 
+    // The press that is being handled begins a drag of the control, with its picture at the pointer.
+    void beginDrag(Control& source);
+
     // Moves the window to the place in its record; true if it was elsewhere.
     bool followRecord();
 
@@ -74,6 +77,7 @@ class WindowView : public QWidget {
     void press(QMouseEvent* event);
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
+    void deliverDrag(Event event, const QPointF& units);
     QRect logicalRect(const QRect& device) const;
 
     Window& window_;
@@ -82,6 +86,7 @@ class WindowView : public QWidget {
     std::map<Timer*, SystemTimer> timers_;
 
     Control* captured_ = nullptr;  // got the press of the held button
+    Control* dragged_ = nullptr;   // is being dragged by the held button
     MouseButton heldButton_ = MouseButton::None;
     bool isSecondPress_ = false;  // of a double click that its control handles
     bool isMoveArmed_ = false;
