@@ -38,6 +38,11 @@ extern float DownX;                      // cells, last press on MapView; gestur
 extern float DownY;                      // cells, last press on MapView; gestures
 extern std::int16_t LastEdgeZone;        // 0..8, last zone of ClampToMap; gestures
 
+// Path of a drag; the gestures record, the tools walk it.
+extern CheckedArray<std::int16_t, 0, 600> StrokeX;  // cells; a stroke begins at subscript 1
+extern CheckedArray<std::int16_t, 0, 600> StrokeY;
+extern std::int16_t StrokeCount;  // next free subscript, 0..600; gestures
+
 // Option strip.
 extern std::int16_t PanelGrabY;          // strip units, pointer in a frame drag; option frames
 extern std::int16_t ThumbGrab;           // units, pointer in a thumb drag; sliders
@@ -51,13 +56,18 @@ extern Color TitleInactiveColor;  // Form1's load
 // Values of MouseState.
 enum MouseGesture : std::int16_t {
     kGestureNone = 0,
+    kGestureCanyon = 1,
     kGesturePick = 2,
     kGesturePickerDrag = 4,
+    kGesturePencil = 5,
+    kGestureLine = 6,
     kGestureFrameDrag = 7,
     kGesturePanelDrag = 8,
+    kGestureShape = 8,  // raise and lower, over the map
     kGestureNavigate3D = 9,
     kGestureScrollUp = 16,
     kGestureScrollDown = 17,
+    kGestureWavy = 34,
     kGestureMapZoom = 56,
     kGestureMapPan = 57,
 };

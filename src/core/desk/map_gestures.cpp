@@ -6,6 +6,7 @@
 #include "core/buttons.h"
 #include "core/color_display.h"
 #include "core/desk/button_events.h"
+#include "core/desk/tool_gestures.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
@@ -124,10 +125,12 @@ void MapView_MouseDown(EventArgs& args) {
     DoubleClickPending = 0;
     DownX = place.x;
     DownY = place.y;
+    pressShapingTools(place.x, place.y);
     if (isOn(button::kColorPicker)) {
         MouseState = kGesturePick;
         pickHeight(place);
     }
+    pressLineTool(place.x, place.y);
     if (args.Button == MouseButton::Right) {
         swapPanAndZoom();
     }
@@ -154,8 +157,14 @@ void MapView_MouseMove(EventArgs& args) {
         releaseAt(args, place);
     }
     showUnderPointer(place.x, place.y);
+    if (!moveCanyonTool(place.x, place.y)) {
+        return;
+    }
     if (isOn(button::kColorPicker) && MouseState == kGesturePick) {
         pickHeight(place);
+    }
+    if (!moveDrawingTools(place.x, place.y)) {
+        return;
     }
     if (isOn(button::kZoom2D) && MouseState == kGestureMapZoom) {
         zoomDrag();
@@ -172,9 +181,11 @@ void MapView_MouseUp(EventArgs& args) {
     Place place = placeOf(args);
     std::int16_t ignored = 0;
     ClampToMap(place.x, place.y, ignored);
+    releaseObjectTools(place.x, place.y);
     if (isOn(button::kColorPicker)) {
         pickHeight(place);
     }
+    releaseDrawingTools(place.x, place.y);
     MouseState = kGestureNone;
 }
 
