@@ -94,6 +94,11 @@ void BinaryFile::fail(int errorNumber) const {
     throw FileFailure("saved", path_, std::strerror(errorNumber));
 }
 
+bool isOrdinaryFile(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 void undoCreation(const std::string& path, bool wasNew) {
     if (wasNew) {
         removeFile(path);

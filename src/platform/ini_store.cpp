@@ -192,10 +192,32 @@ std::string IniStore::read(const std::string& section, const std::string& key,
     return entry == entries->second.end() ? ifMissing : entry->second;
 }
 
-void IniStore::write(const std::string& section, const std::string& key, const std::string& value) {
+void IniStore::apply(const Change& change, IniSections& sections) {
+    if (!change.key) {
+        sections.erase(change.section);
+    } else if (change.value) {
+        sections[change.section][*change.key] = *change.value;
+    } else if (const auto found = sections.find(change.section); found != sections.end()) {
+        found->second.erase(*change.key);
+    }
+}
+
+void IniStore::change(Change change) {
     load();
-    sections_[section][key] = value;
-    changes_[{section, key}] = value;
+    apply(change, sections_);
+    changes_.push_back(std::move(change));
+}
+
+void IniStore::write(const std::string& section, const std::string& key, const std::string& value) {
+    change({section, key, value});
+}
+
+void IniStore::removeKey(const std::string& section, const std::string& key) {
+    change({section, key, std::nullopt});
+}
+
+void IniStore::removeSection(const std::string& section) {
+    change({section, std::nullopt, std::nullopt});
 }
 
 std::vector<std::pair<std::string, std::string>> IniStore::enumerate(const std::string& section) {
@@ -239,8 +261,8 @@ std::string IniStore::writeMerged() {
             return failed(reason);
         }
     }
-    for (const auto& [place, value] : changes_) {
-        merged[place.first][place.second] = value;
+    for (const Change& change : changes_) {
+        apply(change, merged);
     }
     const std::string fresh = target + ".new";
     int reason = writeWhole(fresh, formatIni(merged), mode);

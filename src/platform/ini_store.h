@@ -30,6 +30,9 @@ class IniStore : public SettingsStore {
                const std::string& value) override;
     std::vector<std::pair<std::string, std::string>> enumerate(const std::string& section) override;
 
+    void removeKey(const std::string& section, const std::string& key) override;
+    void removeSection(const std::string& section) override;
+
     // Writes what was changed since the last time into the file, beside what another editor may
     // have written there. A malformed file is copied aside first, to its name and ".damaged". Empty
     // when all went well, otherwise a sentence for the user; the file is then as it was.
@@ -42,7 +45,15 @@ class IniStore : public SettingsStore {
     std::string path_;
     bool isLoaded_ = false;
     IniSections sections_;
-    std::map<std::pair<std::string, std::string>, std::string> changes_;
+    // Changes since the last commit, in order; no key: the section, no value: removed.
+    struct Change {
+        std::string section;
+        std::optional<std::string> key;
+        std::optional<std::string> value;
+    };
+    static void apply(const Change& change, IniSections& sections);
+    void change(Change change);
+    std::vector<Change> changes_;
 };
 
 // Where the user's settings lie: the configuration folder of the desktop.

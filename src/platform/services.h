@@ -26,6 +26,11 @@ class Dialogs {
     virtual ~Dialogs() = default;
     // The chosen path, empty when cancelled. filter: "Name|pattern|Name|pattern".
     virtual std::string askSaveFile(const std::string& title, const std::string& filter) = 0;
+    virtual std::string askOpenFile(const std::string& title, const std::string& filter) = 0;
+    // A colour, the start itself when cancelled.
+    virtual Color askColor(const std::string& title, Color start) = 0;
+    // A line of text, empty when cancelled.
+    virtual std::string askInput(const std::string& prompt, const std::string& title) = 0;
     // kAnswerYes, kAnswerNo or kAnswerOk.
     virtual int message(const std::string& text, int style, const std::string& title) = 0;
 };
@@ -38,9 +43,19 @@ class SettingsStore {
                              const std::string& ifMissing) = 0;
     virtual void write(const std::string& section, const std::string& key,
                        const std::string& value) = 0;
+    // Nothing if there is no such key or section.
+    virtual void removeKey(const std::string& section, const std::string& key) = 0;
+    virtual void removeSection(const std::string& section) = 0;
     // Keys and values of a section, sorted by key.
     virtual std::vector<std::pair<std::string, std::string>> enumerate(
         const std::string& section) = 0;
+};
+
+class FileSystem {
+  public:
+    virtual ~FileSystem() = default;
+    // Whether there is a file, not a folder, of this name.
+    virtual bool fileExists(const std::string& path) = 0;
 };
 
 class Clock {
@@ -71,8 +86,8 @@ class Desktop {
     virtual void yield() = 0;
     // Lets the user move the window by the press that is being handled.
     virtual void beginWindowMove(Window& window) = 0;
-    // The press that is being handled begins a drag of the control: what lies under the pointer gets
-    // DragOver at each move and DragDrop at the release, in place of the control's own events.
+    // The press that is being handled begins a drag of the control: what lies under the pointer
+    // gets DragOver at each move and DragDrop at the release, in place of the control's own events.
     virtual void beginDrag(Control& source) = 0;
     // Caption of this program's active window; empty if another program's is active.
     virtual std::string activeWindowCaption() = 0;
@@ -92,6 +107,7 @@ class FailureReport {
 struct Services {
     Dialogs* dialogs = nullptr;
     SettingsStore* settings = nullptr;
+    FileSystem* files = nullptr;
     Clock* clock = nullptr;
     RandomSource* random = nullptr;
     Desktop* desktop = nullptr;

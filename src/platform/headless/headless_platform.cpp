@@ -1,5 +1,6 @@
 #include "platform/headless/headless_platform.h"
 
+#include "platform/binary_file.h"
 #include "platform/control.h"
 #include "platform/dispatch.h"
 
@@ -34,7 +35,7 @@ std::string onOneLine(const std::string& text) {
 }
 
 void HeadlessPlatform::install() {
-    services() = {this, this, this, this, this, this};
+    services() = {this, this, this, this, this, this, this};
     resetDispatch();
 }
 
@@ -50,6 +51,22 @@ void HeadlessPlatform::log(const std::string& call) {
 std::string HeadlessPlatform::askSaveFile(const std::string& title, const std::string& filter) {
     log("save " + title + " | " + filter);
     return takeFirst(SaveAnswers, std::string());
+}
+
+std::string HeadlessPlatform::askOpenFile(const std::string& title, const std::string& filter) {
+    log("open " + title + " | " + filter);
+    return takeFirst(OpenAnswers, std::string());
+}
+
+Color HeadlessPlatform::askColor(const std::string& title, Color start) {
+    log("color " + title + " | " + std::to_string(redOf(start)) + " " +
+        std::to_string(greenOf(start)) + " " + std::to_string(blueOf(start)));
+    return takeFirst(ColorAnswers, std::optional<Color>()).value_or(start);
+}
+
+std::string HeadlessPlatform::askInput(const std::string& prompt, const std::string& title) {
+    log("input " + title + " | " + prompt);
+    return takeFirst(InputAnswers, std::string());
 }
 
 int HeadlessPlatform::message(const std::string& text, int style, const std::string& title) {
@@ -79,6 +96,22 @@ std::vector<std::pair<std::string, std::string>> HeadlessPlatform::enumerate(
         return {};
     }
     return {found->second.begin(), found->second.end()};
+}
+
+void HeadlessPlatform::removeKey(const std::string& section, const std::string& key) {
+    const auto found = Settings.find(section);
+    if (found != Settings.end()) {
+        found->second.erase(key);
+    }
+}
+
+void HeadlessPlatform::removeSection(const std::string& section) {
+    Settings.erase(section);
+}
+
+bool HeadlessPlatform::fileExists(const std::string& path) {
+    const auto told = Files.find(path);
+    return told != Files.end() ? told->second : isOrdinaryFile(path);
 }
 
 double HeadlessPlatform::secondsSinceMidnight() {

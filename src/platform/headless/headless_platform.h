@@ -26,6 +26,7 @@ struct HandlerFailed {
 
 class HeadlessPlatform : public Dialogs,
                          public SettingsStore,
+                         public FileSystem,
                          public Clock,
                          public RandomSource,
                          public Desktop,
@@ -39,6 +40,9 @@ class HeadlessPlatform : public Dialogs,
 
     // Answers, taken from the front; an empty queue is Cancel, or No.
     std::deque<std::string> SaveAnswers;
+    std::deque<std::string> OpenAnswers;
+    std::deque<std::string> InputAnswers;
+    std::deque<std::optional<Color>> ColorAnswers;  // no colour: cancelled
     std::deque<int> MessageAnswers;
 
     // Random floats: the queue first, then the generator x * 1664525 + 1013904223 if it is seeded.
@@ -65,6 +69,9 @@ class HeadlessPlatform : public Dialogs,
     // The control whose drag began last; none before the first.
     Control* Dragged = nullptr;
 
+    // What fileExists answers for a path; the disk answers for the others.
+    std::map<std::string, bool> Files;
+
     // Sentences of failures; with ThrowOnFailure the first one ends the event instead.
     std::vector<std::string> Failures;
     bool ThrowOnFailure = false;
@@ -73,12 +80,18 @@ class HeadlessPlatform : public Dialogs,
     std::string ActiveCaption = "Ombrelia Terrain Editor";
 
     std::string askSaveFile(const std::string& title, const std::string& filter) override;
+    std::string askOpenFile(const std::string& title, const std::string& filter) override;
+    Color askColor(const std::string& title, Color start) override;
+    std::string askInput(const std::string& prompt, const std::string& title) override;
     int message(const std::string& text, int style, const std::string& title) override;
     std::string read(const std::string& section, const std::string& key,
                      const std::string& ifMissing) override;
     void write(const std::string& section, const std::string& key,
                const std::string& value) override;
     std::vector<std::pair<std::string, std::string>> enumerate(const std::string& section) override;
+    void removeKey(const std::string& section, const std::string& key) override;
+    void removeSection(const std::string& section) override;
+    bool fileExists(const std::string& path) override;
     double secondsSinceMidnight() override;
     void seedFromClock() override;
     void draw(std::span<float> draws) override;

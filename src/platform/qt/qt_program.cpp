@@ -42,10 +42,11 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     QtDesktop desktop;
     QtDialogs dialogs(desktop);
     QtSettingsStore settings(dialogs);
+    DiskFiles files;
     QtClock clock;
     GeneratorRandom random;
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
-    services() = {&dialogs, &settings, &clock, &random, &desktop, &failures};
+    services() = {&dialogs, &settings, &files, &clock, &random, &desktop, &failures};
     desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);

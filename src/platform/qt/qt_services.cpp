@@ -1,10 +1,13 @@
 #include "platform/qt/qt_services.h"
 
+#include <QColorDialog>
 #include <QFile>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QTime>
 
+#include "platform/binary_file.h"
 #include "platform/qt/dialog_dress.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_view.h"
@@ -36,10 +39,41 @@ std::string QtDialogs::askSaveFile(const std::string& title, const std::string& 
     dressApplication(desktop_.scale());
     const QString path = QFileDialog::getSaveFileName(
         desktop_.dialogParent(), QString::fromStdString(title), folder_, toolkitFilter(filter));
+    return remembered(path);
+}
+
+std::string QtDialogs::askOpenFile(const std::string& title, const std::string& filter) {
+    dressApplication(desktop_.scale());
+    return remembered(QFileDialog::getOpenFileName(
+        desktop_.dialogParent(), QString::fromStdString(title), folder_, toolkitFilter(filter)));
+}
+
+// The path as bytes; its folder is where the next dialog opens.
+std::string QtDialogs::remembered(const QString& path) {
     if (!path.isEmpty()) {
         folder_ = QFileInfo(path).absolutePath();
     }
     return QFile::encodeName(path).toStdString();
+}
+
+Color QtDialogs::askColor(const std::string& title, Color start) {
+    dressApplication(desktop_.scale());
+    const QColor from(static_cast<int>(redOf(start)), static_cast<int>(greenOf(start)),
+                      static_cast<int>(blueOf(start)));
+    const QColor chosen =
+        QColorDialog::getColor(from, desktop_.dialogParent(), QString::fromStdString(title));
+    if (!chosen.isValid()) {
+        return start;
+    }
+    return rgb(static_cast<unsigned>(chosen.red()), static_cast<unsigned>(chosen.green()),
+               static_cast<unsigned>(chosen.blue()));
+}
+
+std::string QtDialogs::askInput(const std::string& prompt, const std::string& title) {
+    dressApplication(desktop_.scale());
+    return QInputDialog::getText(desktop_.dialogParent(), QString::fromStdString(title),
+                                 QString::fromStdString(prompt))
+        .toStdString();
 }
 
 int QtDialogs::message(const std::string& text, int style, const std::string& title) {
@@ -72,6 +106,10 @@ void QtSettingsStore::save() {
         hasTold_ = true;
         dialogs_.message(failure, kErrorBox, "Ombrelia Terrain Editor");
     }
+}
+
+bool DiskFiles::fileExists(const std::string& path) {
+    return isOrdinaryFile(path);
 }
 
 double QtClock::secondsSinceMidnight() {

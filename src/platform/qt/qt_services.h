@@ -16,9 +16,14 @@ class QtDialogs : public Dialogs {
   public:
     explicit QtDialogs(QtDesktop& desktop) : desktop_(desktop) {}
     std::string askSaveFile(const std::string& title, const std::string& filter) override;
+    std::string askOpenFile(const std::string& title, const std::string& filter) override;
+    Color askColor(const std::string& title, Color start) override;
+    std::string askInput(const std::string& prompt, const std::string& title) override;
     int message(const std::string& text, int style, const std::string& title) override;
 
   private:
+    std::string remembered(const QString& path);
+
     QtDesktop& desktop_;
     QString folder_;
 };
@@ -34,6 +39,11 @@ class QtSettingsStore : public IniStore {
   private:
     Dialogs& dialogs_;
     bool hasTold_ = false;
+};
+
+class DiskFiles : public FileSystem {
+  public:
+    bool fileExists(const std::string& path) override;
 };
 
 class QtClock : public Clock {

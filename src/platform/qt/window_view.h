@@ -35,7 +35,8 @@ class WindowView : public QWidget {
     // The press that is being handled may become a move of the window.
     void armMove() { isMoveArmed_ = true; }
 
-    // The press that is being handled begins a drag of the control, with its picture at the pointer.
+    // The press that is being handled begins a drag of the control, with its picture at the
+    // pointer.
     void beginDrag(Control& source);
 
     // Moves the window to the place in its record; true if it was elsewhere.

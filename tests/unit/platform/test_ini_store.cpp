@@ -189,6 +189,22 @@ TEST(ini_store, a_disk_without_room_leaves_the_old_file) {
     EXPECT_FALSE(fs::exists(folder.file() + ".new"));
 }
 
+TEST(ini_store, keys_and_sections_can_be_removed) {
+    const Folder folder;
+    {
+        IniStore store(folder.file());
+        store.write("Settings", "a", "1");
+        store.write("Settings", "b", "2");
+        store.write("ColorPalX", "110", "7");
+        ASSERT_EQ(store.commit(), "");
+        store.removeKey("Settings", "a");
+        store.removeSection("ColorPalX");
+        store.removeKey("Nowhere", "a");
+        ASSERT_EQ(store.commit(), "");
+    }
+    EXPECT_EQ(contents(folder.file()), "[Settings]\nb=2\n\n");
+}
+
 TEST(ini_store, a_link_stays_a_link) {
     const Folder folder;
     const std::string real = (folder.path() / "real.ini").string();
