@@ -102,7 +102,9 @@ void CanyonWall::carveRing(int ring, double x, double y) {
         const int top = std::max(fan.tops[n], ground);
         if (top < kHeights) {
             // Rounded, it is below the ground only if the height itself is.
-            ground = std::min(ground, walls[static_cast<std::size_t>(top)]);
+            if (const std::int16_t wall = walls[static_cast<std::size_t>(top)]; wall < ground) {
+                ground = wall;
+            }
         } else if (const double h = wallHeight(ring, top); h <= kHeights - 1 && h < ground) {
             ground = roundToInt16(h);
         }
