@@ -104,7 +104,7 @@ class Marks {
 }  // namespace
 
 DiscBrush::DiscBrush(int rings, int stepDegrees)
-    : rings_(rings), directions_(wholeDegrees(stepDegrees)) {}
+    : rings_(std::max(rings, 0)), directions_(wholeDegrees(stepDegrees)) {}
 
 const DiscBrush::Stencil* DiscBrush::stencilFor(double fractionX, double fractionY) {
     const auto partX = static_cast<int>(fractionX * kParts);

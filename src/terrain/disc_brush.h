@@ -2,6 +2,7 @@
 // cells inside are known beforehand and go row by row; only samples near the rim are computed.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <vector>

@@ -1,5 +1,7 @@
 #include "terrain/prepared_ring.h"
 
+#include <cstdlib>
+
 #include "platform/numeric.h"
 
 namespace ombrelia {
@@ -35,6 +37,8 @@ std::int32_t rowStart(std::int32_t y) {
 
 PreparedRing::PreparedRing(int radius, const Directions& directions)
     : radius_(radius), directions_(&directions) {
+    // A radius that leaves no room for the sums fails here.
+    static_cast<void>(roundToInt32((std::abs(radius) + 1.0) * kParts));
     for (std::size_t n = 0; n < directions.size(); ++n) {
         partsX_.push_back(roundToInt32(radius * directions.cosines()[n] * kParts));
         partsY_.push_back(roundToInt32(radius * directions.sines()[n] * kParts));
@@ -47,7 +51,7 @@ PreparedRing::PreparedRing(int radius, const Directions& directions)
 PreparedRing::Centre PreparedRing::centreAt(double x, double y) const {
     const int column = floorToInt(x);
     const int row = floorToInt(y);
-    const int reach = radius_ + 1;
+    const int reach = std::abs(radius_) + 1;
     const int side = checkedMapSide();
     return {column, row, static_cast<std::int32_t>((x - column) * kParts),
             static_cast<std::int32_t>((y - row) * kParts),

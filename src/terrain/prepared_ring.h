@@ -12,7 +12,7 @@ namespace ombrelia {
 
 class PreparedRing {
   public:
-    // radius below 100. The directions must outlive the circle.
+    // radius up to 126; throws OverflowFailure beyond. The directions must outlive the circle.
     PreparedRing(int radius, const Directions& directions);
 
     // The same cells as RingCells::at gives, into a vector that is lent for them.
