@@ -1,6 +1,7 @@
 #include "terrain/raise_lower.h"
 
-#include <cmath>
+#include <cstdint>
+#include <span>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
