@@ -13,9 +13,13 @@ namespace ombrelia {
 extern std::int16_t DrawHeight;  // 0..255, height of pencil and line; load, picker
 
 // Camera of the perspective view.
-extern std::int16_t ViewYaw;   // degrees 0..359; InitEditor, 3-D drag
-extern std::int16_t ViewTilt;  // degrees 0..359; InitEditor, 3-D drag
-extern double ViewZoom;        // -400..195; InitEditor, 3-D drag
+extern std::int16_t ViewYaw;       // degrees 0..359; InitEditor, 3-D drag
+extern std::int16_t ViewTilt;      // degrees 0..359; InitEditor, 3-D drag
+extern double ViewZoom;            // -400..195; InitEditor, 3-D drag
+extern std::int16_t ViewPanX;      // projected units to the right; 3-D drag
+extern std::int16_t ViewPanY;      // projected units downwards; 3-D drag
+extern std::int16_t ViewOffset;    // pixels that centre a small map; 3-D drawing
+extern std::int16_t ViewQuadrant;  // 1..5, quarter of ViewYaw; 3-D drawing
 
 extern CheckedArray<std::int16_t, 0, 30> GroupCurrent;  // button on in each group; button handlers
 
@@ -37,6 +41,11 @@ extern std::int16_t DoubleClickPending;  // 1 in the press that a double click f
 extern float DownX;                      // cells, last press on MapView; gestures
 extern float DownY;                      // cells, last press on MapView; gestures
 extern std::int16_t LastEdgeZone;        // 0..8, last zone of ClampToMap; gestures
+
+// Path of a stroke or drag, cells or view pixels; gestures.
+extern CheckedArray<std::int16_t, 0, 600> StrokeX;
+extern CheckedArray<std::int16_t, 0, 600> StrokeY;
+extern std::int16_t StrokeCount;  // points held, subscript of the next one; gestures
 
 // Option strip.
 extern std::int16_t PanelGrabY;          // strip units, pointer in a frame drag; option frames
