@@ -43,8 +43,15 @@ void PlainPicture::line(std::int64_t x1, std::int64_t y1, std::int64_t x2, std::
 
 void PlainPicture::polygon(const std::vector<Corner>& corners, Color color) {
     __extension__ using Wide = __int128;
-    for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x) {
+    const auto inPicture = [](std::int64_t place, int side) {
+        return static_cast<int>(std::clamp<std::int64_t>(place, 0, side));
+    };
+    const auto isLeft = [](const Corner& a, const Corner& b) { return a.x < b.x; };
+    const auto isAbove = [](const Corner& a, const Corner& b) { return a.y < b.y; };
+    const auto [left, right] = std::minmax_element(corners.begin(), corners.end(), isLeft);
+    const auto [top, bottom] = std::minmax_element(corners.begin(), corners.end(), isAbove);
+    for (int y = inPicture(top->y, height_); y < inPicture(bottom->y, height_); ++y) {
+        for (int x = inPicture(left->x, width_); x < inPicture(right->x, width_); ++x) {
             bool isInside = false;
             for (std::size_t n = 0; n < corners.size(); ++n) {
                 Corner a = corners[n];
@@ -58,9 +65,9 @@ void PlainPicture::polygon(const std::vector<Corner>& corners, Color color) {
                 // The edge crosses the row of centres at or left of this centre, in halves:
                 // a.x + (y + 1/2 - a.y) (b.x - a.x) / (b.y - a.y) <= x + 1/2.
                 const Wide height = b.y - a.y;
-                const Wide left = 2 * static_cast<Wide>(a.x) * height +
-                                  (2 * static_cast<Wide>(y - a.y) + 1) * (b.x - a.x);
-                if (left <= (2 * static_cast<Wide>(x) + 1) * height) {
+                const Wide crossing = 2 * static_cast<Wide>(a.x) * height +
+                                      (2 * static_cast<Wide>(y - a.y) + 1) * (b.x - a.x);
+                if (crossing <= (2 * static_cast<Wide>(x) + 1) * height) {
                     isInside = !isInside;
                 }
             }
