@@ -17,12 +17,29 @@ double arctanDegrees(double t) {
     return std::atan(t) * (180 / 3.14159);
 }
 
+// Entry k + 1080 belongs to k thirds of a degree.
+struct PlainTables {
+    std::vector<double> sines, cosines;
+
+    PlainTables() {
+        for (int k = -1080; k <= 1080; ++k) {
+            sines.push_back(std::sin((k / 3.0) * (3.14159 / 180)));
+            cosines.push_back(std::cos((k / 3.0) * (3.14159 / 180)));
+        }
+    }
+};
+
+const PlainTables& tables() {
+    static const PlainTables filled;
+    return filled;
+}
+
 double tableCosine(int third) {
-    return std::cos((third / 3.0) * (3.14159 / 180));
+    return tables().cosines.at(static_cast<std::size_t>(third + 1080));
 }
 
 double tableSine(int third) {
-    return std::sin((third / 3.0) * (3.14159 / 180));
+    return tables().sines.at(static_cast<std::size_t>(third + 1080));
 }
 
 }  // namespace
