@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
+#include <optional>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
@@ -14,19 +16,13 @@
 #include "platform/window_life.h"
 #include "views/view3d/cell_painters.h"
 #include "views/view3d/projection.h"
+#include "views/view3d/run_painter.h"
 
 namespace ombrelia {
 
 namespace {
 
 constexpr int kDrawWidthSlider = 5;
-
-// How the points are walked so that near ones come later.
-struct Walk {
-    int step;       // signed
-    bool isByRows;  // rows outside, columns inside
-    int last;       // of either counter, MapSize - 1
-};
 
 struct Quadrant {
     std::int16_t lastYaw;  // degrees
@@ -68,19 +64,50 @@ void paintPoint(int x, int y, int step, int mode, double centre) {
     }
 }
 
-// One run of the inner loop; the value of its counter afterwards.
-int paintRun(const Walk& walk, int outer, int mode, double centre) {
-    int inner = walk.step > 0 ? 0 : walk.last;
-    for (; inner >= 0 && inner <= walk.last; inner += walk.step) {
+// The one style that is on, if it is one.
+std::optional<RunPainter::Style> onlyStyle(int mode) {
+    if (mode == kQuickGrid) {
+        return RunPainter::Style::Lines;
+    }
+    struct StyleButton {
+        int button;
+        RunPainter::Style style;
+    };
+    constexpr StyleButton kStyles[] = {{button::kStyleLine, RunPainter::Style::Lines},
+                                       {button::kStyleDot, RunPainter::Style::Dots},
+                                       {button::kStylePolygon, RunPainter::Style::Polygons}};
+    std::optional<RunPainter::Style> found;
+    for (const StyleButton& row : kStyles) {
+        if (!isOn(row.button)) {
+            continue;
+        }
+        if (found) {
+            return {};
+        }
+        found = row.style;
+    }
+    return found;
+}
+
+// One run of the inner loop, point by point.
+void paintPoints(const Walk& walk, int outer, int mode, double centre) {
+    for (int inner = walk.step > 0 ? 0 : walk.last; inner >= 0 && inner <= walk.last;
+         inner += walk.step) {
         paintPoint(walk.isByRows ? inner : outer, walk.isByRows ? outer : inner, walk.step, mode,
                    centre);
     }
-    return inner;
+}
+
+// Value of the inner counter behind its loop.
+int counterAfter(const Walk& walk) {
+    const int rounds = walk.last / std::abs(walk.step) + 1;
+    return (walk.step > 0 ? 0 : walk.last) + rounds * walk.step;
 }
 
 // Shows a run of the full drawing; true when it is to stop.
-bool showRun(const Walk& walk, int outer, int inner) {
+bool showRun(const Walk& walk, int outer) {
     refreshControl(Form1.MapView);
+    const int inner = counterAfter(walk);
     const int side = walk.last + 1;
     ProgressDone = walk.step > 0 ? outer * inner : (side - outer) * (side - std::abs(inner));
     yieldToEvents();
@@ -89,10 +116,14 @@ bool showRun(const Walk& walk, int outer, int inner) {
 
 // True when it ran to the end.
 bool paintRuns(const Walk& walk, int mode, double centre) {
+    RunPainter painter(walk, centre);
     for (int outer = walk.step > 0 ? 0 : walk.last; outer >= 0 && outer <= walk.last;
          outer += walk.step) {
-        const int inner = paintRun(walk, outer, mode, centre);
-        if (mode == kFullDrawing && showRun(walk, outer, inner)) {
+        const std::optional<RunPainter::Style> style = onlyStyle(mode);
+        if (!style || !painter.paint(outer, *style)) {
+            paintPoints(walk, outer, mode, centre);
+        }
+        if (mode == kFullDrawing && showRun(walk, outer)) {
             return false;
         }
     }
