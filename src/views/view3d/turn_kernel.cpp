@@ -193,15 +193,15 @@ __attribute__((target("avx2"))) bool projectWide(const PointInput& points,
 }
 #endif
 
-bool projectNarrow(const PointInput& points, const CameraState& camera,
-                   std::array<PixelPoint, kMost>& places) {
-    return projectAll(points, camera, places);
-}
-
 }  // namespace
 
 float shortThirds(float along, float up) {
     return thirdsOf(along, up);
+}
+
+bool projectNarrow(const PointInput& points, const CameraState& camera,
+                   std::array<PixelPoint, kMost>& places) {
+    return projectAll(points, camera, places);
 }
 
 bool projectPoints(const PointInput& points, const CameraState& camera,
