@@ -232,8 +232,8 @@ class PolygonFiller {
     PolygonFiller(std::span<const PixelPoint> corners, const Ground& ground) : ground_(ground) {
         PixelPoint before = corners.back();
         for (const PixelPoint& corner : corners) {
-            edges_[count_] = Edge<Int, Product>(before, corner, 0);
-            levels_[count_] = corner.y;
+            edges_[at(count_)] = Edge<Int, Product>(before, corner, 0);
+            levels_[at(count_)] = corner.y;
             ++count_;
             before = corner;
         }
