@@ -151,10 +151,14 @@ void Surface::linePixels(PixelPoint from, PixelPoint to, Color color) {
             pixels_.data() + (line.isSteep ? place * rowStep + start : start * rowStep + place);
         const Pixel pixel = pixelOf(color);
         *at = pixel;
+        // Without a jump: which step carries over cannot be foretold.
+        const std::int64_t plainStep = alongStep + steps.wholeStep * acrossStep;
+        std::int64_t rest = steps.rest;
         for (std::int64_t n = range.first; n < range.last; ++n) {
-            const std::int64_t whole = steps.whole;
-            steps.step();
-            at += alongStep + (steps.whole != whole ? acrossStep : 0);
+            rest += steps.restStep - steps.divisor;
+            const std::int64_t isShort = rest >> 63;  // all bits, or none
+            rest += steps.divisor & isShort;
+            at += plainStep + (acrossStep & ~isShort);
             *at = pixel;
         }
         changed();
