@@ -68,6 +68,7 @@ const Binding kBindings[] = {
     {&Form1, "MapView", Event::MouseDown, MapView_MouseDown},
     {&Form1, "MapView", Event::MouseMove, MapView_MouseMove},
     {&Form1, "MapView", Event::MouseUp, MapView_MouseUp},
+    {&Form1, "MapView", Event::DblClick, MapView_DblClick},
     {&Form1, "Picker", Event::MouseDown, Picker_MouseDown},
     {&Form1, "Picker", Event::MouseMove, Picker_MouseMove},
     {&Form1, "Picker", Event::MouseUp, Picker_MouseUp},
