@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/button_numbers.h"
+#include "core/desk/tool_gestures.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
@@ -217,6 +218,20 @@ TEST_F(ToolGestures, each_tool_has_its_gesture) {
         deliverMouse(Form1.MapView, Event::MouseDown, MouseButton::Left, 20, 20);
         EXPECT_EQ(MouseState, row.gesture) << row.tool;
     }
+}
+
+TEST_F(ToolGestures, the_sum_of_a_canyons_point_is_single_precision) {
+    openMap(257);
+    choose(button::kCanyon);
+    MouseState = kGestureCanyon;
+    StrokeX(1) = 20;
+    StrokeY(1) = 50;
+    const float beside = std::nextafter(20.0F, 21.0F);
+    StrokeCount = 2;
+    EXPECT_TRUE(moveCanyonTool(beside, 50));  // 70 as single, a little more as double
+    EXPECT_EQ(StrokeCount, 2);
+    EXPECT_TRUE(moveCanyonTool(20.001F, 50));
+    EXPECT_EQ(StrokeCount, 3);
 }
 
 TEST_F(ToolGestures, without_a_kind_of_motion_a_press_shapes) {
