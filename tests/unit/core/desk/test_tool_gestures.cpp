@@ -262,6 +262,29 @@ TEST_F(ToolGestures, dots_lie_in_the_scale_of_the_moment) {
     EXPECT_EQ(view.pixelAt(90, 120), 0xFFFFFF);
 }
 
+// A path that is full ends the move before the map is shown; a point that the canyon passes over
+// does not.
+TEST_F(ToolGestures, a_move_with_a_full_path_shows_nothing) {
+    int shown = 0;
+    platform.OnRefresh = [&](const Control& control) { shown += &control == &Form1.MapView; };
+    for (const int tool : {button::kPencil, button::kCanyon}) {
+        choose(tool);
+        deliverMouse(Form1.MapView, Event::MouseDown, MouseButton::Left, 20, 20);
+        shown = 0;
+        deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 40, 40);
+        EXPECT_EQ(shown, 1);
+        StrokeCount = 600;
+        deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 80, 80);
+        EXPECT_EQ(shown, 1);
+        EXPECT_EQ(StrokeCount, 600);
+    }
+    StrokeX(599) = 10;
+    StrokeY(599) = 20;
+    Form1.MapView.Canvas.ScaleWidth = Form1.MapView.Canvas.ScaleHeight = 65;
+    deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 0, 257 * 30 / 65.0);
+    EXPECT_EQ(shown, 2);
+}
+
 }  // namespace
 
 }  // namespace ombrelia
