@@ -1,0 +1,123 @@
+#include "platform/qt/picture_loader.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <algorithm>
+#include <iterator>
+
+#include "platform/bmp_header.h"
+#include "platform/bmp_reader.h"
+#include "platform/byte_source.h"
+#include "platform/failure.h"
+#include "platform/messages.h"
+#include "platform/qt/jpeg_end.h"
+#include "platform/surface.h"
+
+namespace ombrelia {
+
+namespace {
+
+// The same on every machine, whatever plug-ins it has. No vectors, no films.
+constexpr const char* kFormats[] = {"png",  "jpeg", "jpg", "gif",  "pbm", "pgm",
+                                    "ppm",  "xbm",  "xpm", "ico",  "cur", "tif",
+                                    "tiff", "webp", "tga", "icns", "wbmp"};
+
+constexpr int kStripRows = 64;             // rows that are converted at once
+constexpr int kMegabytesIfUnknown = 1024;  // where the header does not tell the size
+
+bool isAllowed(const QByteArray& format) {
+    return std::any_of(std::begin(kFormats), std::end(kFormats),
+                       [&format](const char* name) { return format == name; });
+}
+
+// An image over the surface's own memory.
+QImage imageOver(Surface& picture) {
+    return {reinterpret_cast<uchar*>(picture.row(0)), picture.width(), picture.height(),
+            static_cast<qsizetype>(picture.width()) * static_cast<qsizetype>(sizeof(Pixel)),
+            QImage::Format_RGB32};
+}
+
+void copyGrey16(const QImage& image, Surface& picture) {
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* from = reinterpret_cast<const quint16*>(image.constScanLine(y));
+        std::transform(from, from + picture.width(), picture.row(y), [](quint16 grey) {
+            const auto top = static_cast<unsigned>(grey) >> 8U;
+            return pixelOf(rgb(top, top, top));
+        });
+    }
+}
+
+// Strip by strip, so that the picture is not held three times.
+void copyConverted(const QImage& image, Surface& picture) {
+    for (int y = 0; y < picture.height(); y += kStripRows) {
+        const int rows = std::min(kStripRows, picture.height() - y);
+        // Premultiplied components are those over black.
+        const QImage strip = image.copy(0, y, picture.width(), rows)
+                                 .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        for (int i = 0; i < rows; ++i) {
+            const auto* from = reinterpret_cast<const Pixel*>(strip.constScanLine(i));
+            std::transform(from, from + picture.width(), picture.row(y + i),
+                           [](Pixel pixel) { return pixel | 0xFF000000U; });
+        }
+    }
+}
+
+void takeImage(const QImage& image, const std::string& path, Surface& picture) {
+    if (image.width() != picture.width() || image.height() != picture.height()) {
+        sizePicture(path, image.width(), image.height(), picture);
+    }
+    const bool isInPlace = image.constBits() == reinterpret_cast<const uchar*>(picture.row(0));
+    if (isInPlace) {
+        return;
+    }
+    if (image.format() == QImage::Format_Grayscale16) {
+        copyGrey16(image, picture);
+    } else {
+        copyConverted(image, picture);
+    }
+}
+
+}  // namespace
+
+void readToolkitPicture(QIODevice& device, const std::string& path, Surface& picture) {
+    const QByteArray format = QImageReader::imageFormat(&device);
+    if (!isAllowed(format)) {
+        throw PictureFailure(path, messages::kUnknownPicture);
+    }
+    if (format.startsWith("jp") && !hasJpegEnd(device)) {
+        throw PictureFailure(path, messages::kCutOff);
+    }
+    QImageReader reader(&device, format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    QImage image;
+    const QSize size = reader.size();
+    const bool isSizeKnown = size.isValid() && !size.isEmpty();
+    if (isSizeKnown) {
+        // The buffer is black, and the reader keeps it where the format fits: what a damaged file
+        // leaves out is not what was in memory before.
+        sizePicture(path, size.width(), size.height(), picture);
+        image = imageOver(picture);
+    }
+    QImageReader::setAllocationLimit(isSizeKnown ? 0 : kMegabytesIfUnknown);
+    if (!reader.read(&image) || image.isNull()) {
+        throw PictureFailure(path, reader.errorString().toStdString());
+    }
+    takeImage(image, path, picture);
+    picture.changed();
+}
+
+void QtPictureLoader::loadPicture(const std::string& path, Surface& picture) {
+    FileSource source(path);
+    if (isBitmap(source)) {
+        readBitmap(source, picture);
+        return;
+    }
+    QFile device;
+    if (!device.open(source.handle(), QIODevice::ReadOnly)) {
+        throw PictureFailure(path, device.errorString().toStdString());
+    }
+    readToolkitPicture(device, path, picture);
+}
+
+}  // namespace ombrelia
