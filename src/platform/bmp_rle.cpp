@@ -57,8 +57,8 @@ class RunLengthDecoder {
         : bytes_(source, header.pixelOffset), header_(header), picture_(picture) {}
 
     void decode() {
-        // The mark of the picture's end may be missing behind the last pixel.
-        while (!isFull() || !bytes_.atEnd()) {
+        // Behind the last pixel nothing counts; the mark of the end may be missing there.
+        while (!isFull()) {
             const unsigned count = bytes_.take();
             const unsigned value = bytes_.take();
             if (count > 0) {
