@@ -10,7 +10,7 @@
 #include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/messages.h"
-#include "platform/qt/jpeg_end.h"
+#include "platform/qt/picture_end.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
@@ -22,19 +22,34 @@ constexpr const char* kFormats[] = {"png",  "jpeg", "jpg", "gif",  "pbm", "pgm",
                                     "ppm",  "xbm",  "xpm", "ico",  "cur", "tif",
                                     "tiff", "webp", "tga", "icns", "wbmp"};
 
-constexpr int kStripRows = 64;             // rows that are converted at once
-constexpr int kMegabytesIfUnknown = 1024;  // where the header does not tell the size
+constexpr int kStripRows = 64;  // rows that are converted at once
+constexpr int kMostMegabytes = kLargestPictureBytes >> 20U;
 
 bool isAllowed(const QByteArray& format) {
     return std::any_of(std::begin(kFormats), std::end(kFormats),
                        [&format](const char* name) { return format == name; });
 }
 
-// An image over the surface's own memory.
-QImage imageOver(Surface& picture) {
-    return {reinterpret_cast<uchar*>(picture.row(0)), picture.width(), picture.height(),
-            static_cast<qsizetype>(picture.width()) * static_cast<qsizetype>(sizeof(Pixel)),
-            QImage::Format_RGB32};
+bool isHeldBySurface(QImage::Format format) {
+    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32 ||
+           format == QImage::Format_ARGB32_Premultiplied;
+}
+
+// What the reader decodes into, all black: it keeps an image of the right size and format, so what
+// a damaged file leaves out is not what was in memory before. The surface's own memory where the
+// format fits it.
+QImage preparedImage(QImage::Format format, Surface& picture) {
+    if (isHeldBySurface(format)) {
+        return {reinterpret_cast<uchar*>(picture.row(0)), picture.width(), picture.height(),
+                static_cast<qsizetype>(picture.width()) * static_cast<qsizetype>(sizeof(Pixel)),
+                format};
+    }
+    if (format == QImage::Format_Invalid) {
+        return {};
+    }
+    QImage image(picture.width(), picture.height(), format);
+    image.fill(0);
+    return image;
 }
 
 void copyGrey16(const QImage& image, Surface& picture) {
@@ -67,7 +82,7 @@ void takeImage(const QImage& image, const std::string& path, Surface& picture) {
         sizePicture(path, image.width(), image.height(), picture);
     }
     const bool isInPlace = image.constBits() == reinterpret_cast<const uchar*>(picture.row(0));
-    if (isInPlace) {
+    if (isInPlace && image.format() == QImage::Format_RGB32) {
         return;
     }
     if (image.format() == QImage::Format_Grayscale16) {
@@ -84,22 +99,19 @@ void readToolkitPicture(QIODevice& device, const std::string& path, Surface& pic
     if (!isAllowed(format)) {
         throw PictureFailure(path, messages::kUnknownPicture);
     }
-    if (format.startsWith("jp") && !hasJpegEnd(device)) {
+    if (!isPictureComplete(device, format)) {
         throw PictureFailure(path, messages::kCutOff);
     }
+    QImageReader::setAllocationLimit(kMostMegabytes);
     QImageReader reader(&device, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     QImage image;
     const QSize size = reader.size();
-    const bool isSizeKnown = size.isValid() && !size.isEmpty();
-    if (isSizeKnown) {
-        // The buffer is black, and the reader keeps it where the format fits: what a damaged file
-        // leaves out is not what was in memory before.
+    if (size.isValid() && !size.isEmpty()) {
         sizePicture(path, size.width(), size.height(), picture);
-        image = imageOver(picture);
+        image = preparedImage(reader.imageFormat(), picture);
     }
-    QImageReader::setAllocationLimit(isSizeKnown ? 0 : kMegabytesIfUnknown);
     if (!reader.read(&image) || image.isNull()) {
         throw PictureFailure(path, reader.errorString().toStdString());
     }
