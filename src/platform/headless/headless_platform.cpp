@@ -7,6 +7,7 @@
 #include "platform/control.h"
 #include "platform/dispatch.h"
 #include "platform/failure.h"
+#include "platform/headless/pnm_reader.h"
 #include "platform/messages.h"
 
 namespace ombrelia {
@@ -126,10 +127,13 @@ bool HeadlessPlatform::isNameTaken(const std::string& path) {
 
 void HeadlessPlatform::loadPicture(const std::string& path, Surface& picture) {
     FileSource source(path);
-    if (!isBitmap(source)) {
+    if (isBitmap(source)) {
+        readBitmap(source, picture);
+    } else if (isPortableMap(source)) {
+        readPortableMap(source, picture);
+    } else {
         throw PictureFailure(path, messages::kUnknownPicture);
     }
-    readBitmap(source, picture);
 }
 
 double HeadlessPlatform::secondsSinceMidnight() {

@@ -94,7 +94,7 @@ class HeadlessPlatform : public Dialogs,
     void removeSection(const std::string& section) override;
     bool fileExists(const std::string& path) override;
     bool isNameTaken(const std::string& path) override;
-    // Reads bitmaps alone.
+    // Reads bitmaps and portable maps.
     void loadPicture(const std::string& path, Surface& picture) override;
     double secondsSinceMidnight() override;
     void seedFromClock() override;
