@@ -25,7 +25,6 @@ bool skip(QIODevice& device, qint64 bytes) {
 
 constexpr std::uint8_t kMark = 0xFF;
 constexpr std::uint8_t kStartOfPixels = 0xDA;
-constexpr std::uint8_t kEndOfJpeg = 0xD9;
 
 // Goes behind the segments up to the first pixels; these may hold a whole smaller picture.
 bool skipToJpegPixels(QIODevice& device) {
@@ -46,25 +45,26 @@ bool skipToJpegPixels(QIODevice& device) {
     return false;
 }
 
-// No pixels look like the mark of the end.
-bool findJpegEnd(QIODevice& device) {
+// Whether these bytes stand somewhere from the device's place on.
+bool find(QIODevice& device, QByteArrayView wanted) {
     constexpr qint64 kChunkBytes = 65536;
-    const char end[] = {static_cast<char>(kMark), static_cast<char>(kEndOfJpeg)};
     QByteArray text;
     while (true) {
         const QByteArray chunk = device.read(kChunkBytes);
         if (chunk.isEmpty()) {
             return false;
         }
-        text = text.right(1) + chunk;
-        if (text.contains(QByteArrayView(end, 2))) {
+        text = text.right(wanted.size() - 1) + chunk;
+        if (text.contains(wanted)) {
             return true;
         }
     }
 }
 
 bool isJpegComplete(QIODevice& device) {
-    return skip(device, 2) && skipToJpegPixels(device) && findJpegEnd(device);
+    // No pixels look like the mark of the end.
+    constexpr char kEnd[] = {'\xFF', '\xD9'};
+    return skip(device, 2) && skipToJpegPixels(device) && find(device, QByteArrayView(kEnd, 2));
 }
 
 // Chunks of a length each, up to one without a length.
@@ -108,12 +108,19 @@ bool isGifComplete(QIODevice& device) {
     return false;
 }
 
+// The list of its bytes is closed.
+bool isXbmComplete(QIODevice& device) {
+    return find(device, QByteArrayView("}", 1));
+}
+
 struct EndRow {
     const char* format;
     bool (*isComplete)(QIODevice& device);
 };
-constexpr EndRow kEnds[] = {
-    {"jpeg", isJpegComplete}, {"jpg", isJpegComplete}, {"gif", isGifComplete}};
+constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete},
+                            {"jpg", isJpegComplete},
+                            {"gif", isGifComplete},
+                            {"xbm", isXbmComplete}};
 
 }  // namespace
 

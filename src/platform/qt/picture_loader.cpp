@@ -30,6 +30,16 @@ bool isAllowed(const QByteArray& format) {
                        [&format](const char* name) { return format == name; });
 }
 
+// The toolkit's name of the kind, by content. It takes a TGA of true colours for cursors, but where
+// those are counted the TGA has a 0.
+QByteArray formatOf(QIODevice& device) {
+    constexpr qint64 kCountBytes = 2;
+    const QByteArray format = QImageReader::imageFormat(&device);
+    const bool isIcon = format == "ico" || format == "cur";
+    const QByteArray begin = device.peek(4 + kCountBytes);
+    return isIcon && begin.endsWith(QByteArray(kCountBytes, '\0')) ? QByteArray("tga") : format;
+}
+
 bool isHeldBySurface(QImage::Format format) {
     return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32 ||
            format == QImage::Format_ARGB32_Premultiplied;
@@ -49,6 +59,23 @@ QImage preparedImage(QImage::Format format, Surface& picture) {
     }
     QImage image(picture.width(), picture.height(), format);
     image.fill(0);
+    return image;
+}
+
+// Sizes picture by what the file says of itself, and gives the image to decode it into. With a
+// reader of its own, since some kinds read on where the question for the size has stopped.
+QImage imageFor(QIODevice& device, const QByteArray& format, const std::string& path,
+                Surface& picture) {
+    const qint64 begin = device.pos();
+    QImage image;
+    QImageReader reader(&device, format);
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (size.isValid() && !size.isEmpty()) {
+        sizePicture(path, size.width(), size.height(), picture);
+        image = preparedImage(reader.imageFormat(), picture);
+    }
+    device.seek(begin);
     return image;
 }
 
@@ -95,7 +122,7 @@ void takeImage(const QImage& image, const std::string& path, Surface& picture) {
 }  // namespace
 
 void readToolkitPicture(QIODevice& device, const std::string& path, Surface& picture) {
-    const QByteArray format = QImageReader::imageFormat(&device);
+    const QByteArray format = formatOf(device);
     if (!isAllowed(format)) {
         throw PictureFailure(path, messages::kUnknownPicture);
     }
@@ -103,15 +130,10 @@ void readToolkitPicture(QIODevice& device, const std::string& path, Surface& pic
         throw PictureFailure(path, messages::kCutOff);
     }
     QImageReader::setAllocationLimit(kMostMegabytes);
+    QImage image = imageFor(device, format, path, picture);
     QImageReader reader(&device, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    QImage image;
-    const QSize size = reader.size();
-    if (size.isValid() && !size.isEmpty()) {
-        sizePicture(path, size.width(), size.height(), picture);
-        image = preparedImage(reader.imageFormat(), picture);
-    }
     if (!reader.read(&image) || image.isNull()) {
         throw PictureFailure(path, reader.errorString().toStdString());
     }
