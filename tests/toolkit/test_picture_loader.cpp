@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include "picture_corpus.h"
 #include "picture_files.h"
 #include "platform/bitmap_bytes.h"
 #include "platform/qt/picture_loader.h"
@@ -149,6 +150,16 @@ TEST(PictureLoader, bitmaps_go_to_our_own_reader) {
     parts.bits = 16;
     parts.pixels = packedRows({{0x7FFF, 0}}, 16);
     EXPECT_EQ(loadBytes(parts.file()).row(0)[0], pixelOf(rgb(255, 255, 255)));
+}
+
+TEST(PictureLoader, every_seed_of_the_fuzzers_is_a_picture) {
+    std::vector<NamedFile> files = bitmapCorpus();
+    const std::vector<NamedFile> others = pictureCorpus();
+    files.insert(files.end(), others.begin(), others.end());
+    for (const auto& [name, bytes] : files) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(refusalOfFile(bytes), "");
+    }
 }
 
 TEST(PictureLoader, pictures_above_128_megabytes_are_taken) {
