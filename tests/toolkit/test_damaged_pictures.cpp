@@ -68,6 +68,12 @@ TEST(DamagedPictures, every_kind_that_is_cut_in_its_pixels_is_refused) {
     }
 }
 
+TEST(DamagedPictures, a_tga_with_too_few_pixels_before_its_end_is_refused) {
+    std::string file = fileOf(colorful(64, 64), "tga");
+    file.erase(1000, 5000);
+    EXPECT_EQ(refusalOfFile(file), sentence("It is cut off before its end"));
+}
+
 TEST(DamagedPictures, flipped_bits_never_show_old_memory) {
     for (const char* kind : kKinds) {
         const std::string file = fileOf(pictureFor(kind), kind);

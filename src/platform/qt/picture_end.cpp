@@ -113,6 +113,21 @@ bool isXbmComplete(QIODevice& device) {
     return find(device, QByteArrayView("}", 1));
 }
 
+// Pixels that are not run-length coded have a length that is known beforehand.
+bool isTgaComplete(QIODevice& device) {
+    constexpr unsigned kCoded = 8;
+    std::array<std::uint8_t, 18> header{};
+    if (!take(device, header)) {
+        return false;
+    }
+    const auto word = [&header](std::size_t at) {
+        return header[at] + header[at + 1] * qint64{256};
+    };
+    const qint64 palette = header[1] == 0 ? 0 : word(5) * ((header[7] + 7) / 8);
+    const qint64 pixels = word(12) * word(14) * ((header[16] + 7) / 8);
+    return (header[2] & kCoded) != 0 || skip(device, header[0] + palette + pixels);
+}
+
 struct EndRow {
     const char* format;
     bool (*isComplete)(QIODevice& device);
@@ -120,6 +135,7 @@ struct EndRow {
 constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete},
                             {"jpg", isJpegComplete},
                             {"gif", isGifComplete},
+                            {"tga", isTgaComplete},
                             {"xbm", isXbmComplete}};
 
 }  // namespace
