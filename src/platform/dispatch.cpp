@@ -21,6 +21,7 @@ void (*stopRequest)() = nullptr;  // bound once
 
 // Keys below 0 are kept for closing a window; callers of putOff use 0 and above.
 constexpr int kCloseKey = -1;
+constexpr int kCloseAloneKey = -2;
 
 struct DepthGuard {
     DepthGuard() { ++state.depth; }
@@ -110,6 +111,10 @@ void deliverMouse(Control& control, Event event, MouseButton button, double x, d
 }
 
 void deliverClose(Window& window) {
+    if (state.depth > 0 && window.StandsAlone) {
+        state.putOff[kCloseAloneKey] = [&window] { unloadWindow(window); };
+        return;
+    }
     if (state.depth > 0) {
         putOff(kCloseKey, [&window] { unloadWindow(window); });
         return;
@@ -130,6 +135,10 @@ void putOff(int key, std::function<void()> action) {
     if (stopRequest != nullptr) {
         stopRequest();
     }
+}
+
+bool hasPutOff() {
+    return !state.putOff.empty();
 }
 
 void setStopRequest(void (*request)()) {
