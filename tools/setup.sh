@@ -1,7 +1,7 @@
 # Shared by ./run and ./test: packages and the build.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core)
 SCREEN_PACKAGES=(xvfb openbox xdotool x11-utils imagemagick)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev netpbm clang-format python3 git)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev netpbm clang-format python3 git)
 
 step() {
     printf '\n== %s\n' "$*"

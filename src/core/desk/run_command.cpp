@@ -18,6 +18,7 @@
 #include "terrain/fractal/fractal_terrain.h"
 #include "views/map2d/map_transform.h"
 #include "views/map2d/update_map_view.h"
+#include "views/view3d/draw_terrain.h"
 #include "views/view_mode.h"
 
 namespace ombrelia {
@@ -27,6 +28,7 @@ namespace {
 constexpr int kMenuFrame = 11;
 constexpr int kOptionsFrame = 12;
 constexpr int kLastTool = 10;
+constexpr int kResolutionSlider = 4;
 
 void updateView() {
     SwitchViewMode(kMode2D);
@@ -39,6 +41,11 @@ void showMenu() {
 
 void showOptions() {
     ScrollToFrame(kOptionsFrame);
+}
+
+void draw3D() {
+    SwitchViewMode(kMode3D);
+    DrawTerrain3D(SliderValues(kResolutionSlider).Value, kFullDrawing);
 }
 
 void showAbout() {
@@ -72,19 +79,13 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {button::kClose, ExitEditor, true},
-    {button::kUpdate2D, updateView, true},
-    {button::kSave, SaveCommand, false},
-    {button::kNewMap, StartNewMap, true},
-    {button::kOptions, showOptions, false},
-    {button::kExit, ExitEditor, true},
-    {button::kMenu, showMenu, false},
-    {button::kGenerate, GenerateCommand, true},
-    {button::kAbout, showAbout, false},
-    {button::kStop, requestStop, false},
-    {button::kRedrawColors, redrawWithColors, true},
-    {button::kMinimize, minimizeEditor, false},
-    {button::kShowHelpBox, showOrHideHint, false},
+    {button::kClose, ExitEditor, true},         {button::kUpdate2D, updateView, true},
+    {button::kSave, SaveCommand, false},        {button::kNewMap, StartNewMap, true},
+    {button::kOptions, showOptions, false},     {button::kExit, ExitEditor, true},
+    {button::kMenu, showMenu, false},           {button::kDraw3D, draw3D, true},
+    {button::kGenerate, GenerateCommand, true}, {button::kAbout, showAbout, false},
+    {button::kStop, requestStop, false},        {button::kRedrawColors, redrawWithColors, true},
+    {button::kMinimize, minimizeEditor, false}, {button::kShowHelpBox, showOrHideHint, false},
 };
 
 void paintState(int button, int state) {
