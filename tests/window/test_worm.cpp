@@ -1,4 +1,7 @@
 // The worm game on the screen: real keys, the fades that block the event loop, closing.
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 #include "core/objects.h"
@@ -6,6 +9,7 @@
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
+#include "platform/services.h"
 #include "stories.h"
 
 namespace ombrelia {
@@ -93,6 +97,25 @@ TEST(WormWindow, a_close_during_a_fade_cuts_it_short) {
         });
         EXPECT_TRUE(driver.waitForWindow(Form2));
         driver.inProgram([] { EXPECT_EQ(Lives, 5); });
+    });
+}
+
+TEST(WormWindow, a_game_that_ends_under_a_dialog_leaves_it_alone) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openGame(driver));
+        driver.inProgram([] {
+            Lives = 1;
+            putFoodAway();
+            EXPECT_EQ(QApplication::activeWindow()->windowTitle().toStdString(), Form2.Caption);
+            QTimer::singleShot(0, [] {
+                runHandler([] { services().dialogs->message("Wait.", kErrorBox, "A message"); });
+            });
+        });
+        ASSERT_TRUE(driver.waitForDialog("A message"));
+        EXPECT_TRUE(driver.waitFor([] { return !Form2.Loaded; }));
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([] { return QApplication::activeModalWidget() == nullptr; }));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Loaded && !isHandling(); }));
     });
 }
 
