@@ -1,7 +1,5 @@
 #include "games/worm/board.h"
 
-#include <cstdint>
-
 #include "core/windows/form2.h"
 #include "games/worm/worm_state.h"
 #include "platform/window_life.h"
@@ -12,7 +10,6 @@ namespace {
 
 constexpr int kFadeStep = 10;
 constexpr int kFirstBarredLevel = 2;
-constexpr int kLastBarredLevel = 4;
 
 // A half and the quarters of the board's side, in cells.
 struct Marks {

@@ -5,6 +5,9 @@
 
 namespace ombrelia {
 
+// The last level with walls of its own inside.
+inline constexpr int kLastBarredLevel = 4;
+
 // Writes the walls of a level, from 1, into NextBoard. Level 1 and all above 4 leave the inner
 // cells as they were.
 void BuildLevel(int level);

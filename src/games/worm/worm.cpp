@@ -20,7 +20,6 @@ namespace {
 constexpr std::int16_t kStartCell = 3;
 constexpr std::int16_t kStartLength = 4;
 constexpr std::int16_t kMealLength = 2;
-constexpr int kLastBarredLevel = 4;
 constexpr std::int16_t kBrightest = 255;
 constexpr std::int16_t kDarkest = 30;
 constexpr int kFadeStep = 10;
