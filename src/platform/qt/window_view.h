@@ -20,6 +20,13 @@ class WindowView : public QWidget {
     WindowView(Window& window, QtDesktop& desktop);
 
     const Window& window() const { return window_; }
+    QtDesktop& desktop() { return desktop_; }
+
+    // Device pixels to a unit of this window.
+    double scale() const { return scale_; }
+
+    // A press and release in the middle of a control, without the mouse.
+    void pressControl(Control& control);
 
     // Asks for a repaint of every part that differs from what was last painted; follows the
     // record's place where the window is docked. True if anything differed.
@@ -84,7 +91,7 @@ class WindowView : public QWidget {
 
     Window& window_;
     QtDesktop& desktop_;
-    double scale_;  // device pixels to a unit of this window
+    double scale_;
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
 
