@@ -8,7 +8,10 @@
 #include "core/desk/startup.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/form2.h"
 #include "core/windows/small_windows.h"
+#include "games/worm/worm.h"
+#include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
 
@@ -92,6 +95,11 @@ const Binding kBindings[] = {
     {&Form1, "Picture1", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
     {&Form1, "Combo1", Event::Click, Combo1_Click},
+
+    {&Form2, "", Event::Load, Form2_Load},
+    {&Form2, "", Event::KeyDown, Form2_KeyDown},
+    {&Form2, "Label2", Event::KeyDown, Form2_KeyDown},
+    {&Form2, "Timer1", Event::Timer, Form2_Timer},
 };
 
 void bind(const Binding& row) {
@@ -110,7 +118,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1, &HelpFrm};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,
+                                                 &Form1,     &HelpFrm,    &Form2};
     return windows;
 }
 
@@ -119,6 +128,8 @@ const std::vector<ValueRow>& allValues() {
         std::vector<ValueRow> rows = coreValues();
         const std::vector<ValueRow> fractal = fractalValues();
         rows.insert(rows.end(), fractal.begin(), fractal.end());
+        const std::vector<ValueRow> worm = wormValues();
+        rows.insert(rows.end(), worm.begin(), worm.end());
         return rows;
     }();
     return values;
