@@ -21,6 +21,7 @@ void (*stopRequest)() = nullptr;  // bound once
 
 // Keys below 0 are kept for closing a window; callers of putOff use 0 and above.
 constexpr int kCloseKey = -1;
+constexpr int kCloseAloneKey = -2;
 
 struct DepthGuard {
     DepthGuard() { ++state.depth; }
@@ -117,6 +118,10 @@ void deliverClose(Window& window) {
             unloadWindow(window);
         }
     };
+    if (state.depth > 0 && window.StandsAlone) {
+        state.putOff[kCloseAloneKey] = close;
+        return;
+    }
     if (state.depth > 0) {
         putOff(kCloseKey, close);
     } else {
@@ -137,6 +142,10 @@ void putOff(int key, std::function<void()> action) {
     if (stopRequest != nullptr) {
         stopRequest();
     }
+}
+
+bool hasPutOff() {
+    return !state.putOff.empty();
 }
 
 void setStopRequest(void (*request)()) {

@@ -155,6 +155,10 @@ void HeadlessPlatform::minimize(Window& window) {
 
 void HeadlessPlatform::refresh(Control& /*control*/) {}
 
+void HeadlessPlatform::sleep(int milliseconds) {
+    log("sleep " + std::to_string(milliseconds));
+}
+
 void HeadlessPlatform::yield() {
     ++Yields;
     if (OnYield) {

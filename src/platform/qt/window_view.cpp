@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "platform/dispatch.h"
+#include "platform/qt/key_mapping.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_painter.h"
 
@@ -40,13 +41,19 @@ Qt::WindowFlags flagsOf(const Window& window) {
     if (window.DockedTo != nullptr) {
         return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
     }
+    if (window.HasFrame) {
+        return Qt::Window;
+    }
     return Qt::Window | Qt::FramelessWindowHint;
 }
 
 }  // namespace
 
 WindowView::WindowView(Window& window, QtDesktop& desktop)
-    : QWidget(nullptr, flagsOf(window)), window_(window), desktop_(desktop) {
+    : QWidget(nullptr, flagsOf(window)),
+      window_(window),
+      desktop_(desktop),
+      scale_(desktop.scaleOf(window)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     if (window.DockedTo != nullptr) {
@@ -57,7 +64,7 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
 }
 
 void WindowView::place() {
-    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const double logicalPerUnit = scale_ / devicePixelRatioF();
     setFixedSize(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
                  static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
     if (window_.DockedTo != nullptr) {
@@ -74,7 +81,7 @@ void WindowView::place() {
 }
 
 bool WindowView::followRecord() {
-    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const double logicalPerUnit = scale_ / devicePixelRatioF();
     const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
                         static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
     if (target == pos()) {
@@ -86,7 +93,7 @@ bool WindowView::followRecord() {
 
 WindowView::Shown WindowView::lookOf(const Control& control) const {
     Shown look;
-    look.rect = visibleDeviceRect(control, desktop_.scale());
+    look.rect = visibleDeviceRect(control, scale_);
     look.face = control.Face;
     look.caption = control.Caption;
     if (control.Kind == ControlKind::Label) {
@@ -111,6 +118,9 @@ QRect WindowView::logicalRect(const QRect& device) const {
 }
 
 bool WindowView::sync() {
+    if (const QString title = QString::fromStdString(window_.Caption); title != windowTitle()) {
+        setWindowTitle(title);
+    }
     bool isDifferent = window_.DockedTo != nullptr && followRecord();
     if (shown_.size() != window_.Controls.size()) {
         shown_.assign(window_.Controls.size(), {});
@@ -148,7 +158,7 @@ void WindowView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
-    const PaintTools tools{desktop_.skin(), desktop_.scale()};
+    const PaintTools tools{desktop_.skin(), scale_};
     for (const QRect& part : event->region()) {
         const QRect device =
             QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
@@ -159,7 +169,7 @@ void WindowView::paintEvent(QPaintEvent* event) {
 }
 
 QPointF WindowView::unitsOf(const QPointF& logical) const {
-    return logical * (devicePixelRatioF() / desktop_.scale());
+    return logical * (devicePixelRatioF() / scale_);
 }
 
 void WindowView::deliverTo(Control& control, Event event, MouseButton button,
@@ -183,7 +193,7 @@ void WindowView::press(QMouseEvent* event) {
 
 void WindowView::beginDrag(Control& source) {
     dragged_ = &source;
-    const QRect place = deviceRect(source, desktop_.scale());
+    const QRect place = deviceRect(source, scale_);
     QPixmap icon =
         QPixmap::fromImage(desktop_.skin().face(source.Face, place.width(), place.height()));
     icon.setDevicePixelRatio(devicePixelRatioF());
@@ -300,13 +310,26 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 void WindowView::moveEvent(QMoveEvent* /*event*/) {
-    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const double logicalPerUnit = scale_ / devicePixelRatioF();
     window_.Left = pos().x() / logicalPerUnit;
     window_.Top = pos().y() / logicalPerUnit;
     desktop_.wakeTimers();
 }
 
+void WindowView::keyPressEvent(QKeyEvent* event) {
+    if (window_.handlerOf(Event::KeyDown) == nullptr) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    EventArgs args;
+    args.KeyCode = virtualKeyOf(*event);
+    desktop_.run([&] { deliver(window_, Event::KeyDown, args); });
+}
+
 void WindowView::timerEvent(QTimerEvent* event) {
+    if (desktop_.isWaiting()) {
+        return;
+    }
     for (auto& [timer, system] : timers_) {
         if (system.basic.timerId() == event->timerId()) {
             tick(*timer, system);

@@ -51,6 +51,7 @@ class WindowView : public QWidget {
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -83,6 +84,7 @@ class WindowView : public QWidget {
 
     Window& window_;
     QtDesktop& desktop_;
+    double scale_;  // device pixels to a unit of this window
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
 
