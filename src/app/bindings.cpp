@@ -8,7 +8,10 @@
 #include "core/desk/startup.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
+#include "games/maze/maze_events.h"
+#include "games/maze/maze_state.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
 
@@ -88,6 +91,18 @@ const Binding kBindings[] = {
     {&Form1, "Picture1", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
     {&Form1, "Combo1", Event::Click, Combo1_Click},
+
+    {&frm3DMaze, "", Event::Load, frm3DMaze_Load},
+    {&frm3DMaze, "", Event::Unload, frm3DMaze_Unload},
+    {&frm3DMaze, "", Event::Resize, frm3DMaze_Resize},
+    {&frm3DMaze, "", Event::Paint, frm3DMaze_Paint},
+    {&frm3DMaze, "", Event::KeyDown, frm3DMaze_KeyDown},
+    {&frm3DMaze, "Timer1", Event::Timer, frm3DMaze_Timer},
+    {&frm3DMaze, "VScroll1", Event::Change, VScroll1_Change},
+    {&frm3DMaze, "VScroll1", Event::Scroll, VScroll1_Scroll},
+    {&frm3DMaze, "mnuActionItem", Event::Click, mnuActionItem_Click},
+    {&frm3DMaze, "mnuStyleItem", Event::Click, mnuStyleItem_Click},
+    {&frm3DMaze, "mnuHelpItem", Event::Click, mnuHelpItem_Click},
 };
 
 void bind(const Binding& row) {
@@ -106,7 +121,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1, &HelpFrm};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,
+                                                 &Form1,     &HelpFrm,    &frm3DMaze};
     return windows;
 }
 
@@ -115,6 +131,8 @@ const std::vector<ValueRow>& allValues() {
         std::vector<ValueRow> rows = coreValues();
         const std::vector<ValueRow> fractal = fractalValues();
         rows.insert(rows.end(), fractal.begin(), fractal.end());
+        const std::vector<ValueRow> maze = mazeValues();
+        rows.insert(rows.end(), maze.begin(), maze.end());
         return rows;
     }();
     return values;
@@ -135,6 +153,7 @@ void resetProcess() {
     for (const ValueRow& row : allValues()) {
         row.reset();
     }
+    releaseMaze();
     for (Window* window : allWindows()) {
         window->Loaded = false;
         window->Visible = false;

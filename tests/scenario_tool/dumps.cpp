@@ -2,6 +2,7 @@
 
 #include "core/objects.h"
 #include "errors.h"
+#include "games/maze/maze_state.h"
 #include "names.h"
 
 namespace ombrelia::scenario {
@@ -18,7 +19,10 @@ void writeGrid(const HeightGrid& grid, std::ostream& out) {
 }
 
 const Surface& surfaceNamed(const std::string& name) {
-    const Control& control = controlNamed(name);
+    const Control& named = controlNamed(name);
+    const Control* ground =
+        named.Kind == ControlKind::Window ? static_cast<const Window&>(named).Ground : nullptr;
+    const Control& control = ground != nullptr ? *ground : named;
     if (control.Kind == ControlKind::PictureBox) {
         const Surface& canvas = static_cast<const PictureBox&>(control).Canvas;
         if (canvas.width() > 0) {
@@ -90,6 +94,28 @@ void dumpCalls(const Session& session, const Fields& /*none*/, std::ostream& out
     for (const std::string& call : session.platform.Calls) {
         out << call << "\n";
     }
+}
+
+namespace {
+
+void writePage(const MazeGrid& page, std::ostream& out) {
+    for (int y = 0; y <= page.maxY(); ++y) {
+        for (int x = 0; x <= page.maxX(); ++x) {
+            out << static_cast<int>(page(x, y));
+        }
+        out << "\n";
+    }
+}
+
+}  // namespace
+
+void dumpMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    out << RoomsInSolution << " " << Adjacency << "\n";
+    writePage(MazePage, out);
+}
+
+void dumpUserMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    writePage(UserPage, out);
 }
 
 }  // namespace ombrelia::scenario

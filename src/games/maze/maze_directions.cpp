@@ -1,0 +1,8 @@
+#include "games/maze/maze_directions.h"
+
+namespace ombrelia {
+
+constexpr MazeOrders<4, kSquareOrderCount> kSquareOrders = makeMazeOrders<4, kSquareOrderCount>();
+constexpr MazeOrders<6, kHexOrderCount> kHexOrders = makeMazeOrders<6, kHexOrderCount>();
+
+}  // namespace ombrelia

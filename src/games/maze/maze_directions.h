@@ -1,0 +1,63 @@
+// Directions from a room to its walls, and all orders in which they can be tried.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+namespace ombrelia {
+
+// A step from a room to the wall cell; twice the step leads to the next room.
+struct MazeDelta {
+    std::int8_t x, y;
+    bool operator==(const MazeDelta&) const = default;
+};
+
+inline constexpr std::array<MazeDelta, 4> kSquareDeltas = {{{-1, 0}, {0, 1}, {1, 0}, {0, -1}}};
+inline constexpr std::array<MazeDelta, 6> kHexDeltas = {
+    {{-2, -1}, {-2, 1}, {0, -2}, {0, 2}, {2, -1}, {2, 1}}};
+
+template <std::size_t kDirections, std::size_t kOrders>
+using MazeOrders = std::array<std::array<std::uint8_t, kDirections>, kOrders>;
+
+// Row n lists, for each place of the order, the direction tried there. The n-th tuple of distinct
+// directions in lexicographic order says at which place each direction stands.
+template <std::size_t kDirections, std::size_t kOrders>
+constexpr MazeOrders<kDirections, kOrders> makeMazeOrders() {
+    MazeOrders<kDirections, kOrders> orders{};
+    std::array<std::uint8_t, kDirections> tuple{};
+    for (std::size_t i = 0; i < kDirections; ++i) {
+        tuple[i] = static_cast<std::uint8_t>(i);
+    }
+    for (auto& order : orders) {
+        for (std::size_t i = 0; i < kDirections; ++i) {
+            order[tuple[i]] = static_cast<std::uint8_t>(i);
+        }
+        // The next tuple: the last rise is exchanged, what follows it turned round.
+        std::size_t rise = kDirections - 1;
+        while (rise > 0 && tuple[rise - 1] > tuple[rise]) {
+            --rise;
+        }
+        if (rise == 0) {
+            break;
+        }
+        std::size_t other = kDirections - 1;
+        while (tuple[other] < tuple[rise - 1]) {
+            --other;
+        }
+        std::swap(tuple[rise - 1], tuple[other]);
+        for (std::size_t low = rise, high = kDirections - 1; low < high; ++low, --high) {
+            std::swap(tuple[low], tuple[high]);
+        }
+    }
+    return orders;
+}
+
+inline constexpr std::size_t kSquareOrderCount = 24;
+inline constexpr std::size_t kHexOrderCount = 720;
+
+extern const MazeOrders<4, kSquareOrderCount> kSquareOrders;
+extern const MazeOrders<6, kHexOrderCount> kHexOrders;
+
+}  // namespace ombrelia
