@@ -8,6 +8,10 @@
 
 namespace ombrelia {
 
+// In world units a square room is 1 wide and a hexagon has sides of 1.
+inline constexpr double kRoot3 = 1.7320508075688772;
+inline constexpr double kThickness = 0.25;  // of a wall
+
 // A step from a room to the wall cell; twice the step leads to the next room.
 struct MazeDelta {
     std::int8_t x, y;

@@ -1,7 +1,6 @@
 #include "games/maze/maze_generator.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "games/maze/maze_directions.h"
 #include "platform/numeric.h"
@@ -11,25 +10,24 @@ namespace ombrelia {
 namespace {
 
 constexpr double kRoomTwips = 360;
-constexpr double kWallThickness = 0.25;
 constexpr std::int16_t kLeastSquare = 2;
 constexpr std::int16_t kLeastHexColumns = 3;
 constexpr std::int16_t kLeastHexRows = 2;
 
 void computeSquare(double w, double h) {
-    NumColumns = std::max(floorToInt16(w / kRoomTwips - kWallThickness), kLeastSquare);
+    NumColumns = std::max(floorToInt16(w / kRoomTwips - kThickness), kLeastSquare);
     NumRows = std::max(floorToInt16(NumColumns * h / w), kLeastSquare);
 }
 
 void computeHexagonal(double w, double h) {
-    const double r = std::sqrt(3.0);
-    NumColumns = floorToInt16(2 * (w / kRoomTwips - 2 - kWallThickness / r) / 3 + 1);
+    constexpr double r = kRoot3;
+    NumColumns = floorToInt16(2 * (w / kRoomTwips - 2 - kThickness / r) / 3 + 1);
     if (NumColumns % 2 == 0) {
         --NumColumns;
     }
     NumColumns = std::max(NumColumns, kLeastHexColumns);
-    const double wide = (NumColumns - 1) * 3 / 2 + 2 + kWallThickness / r;
-    NumRows = std::max(floorToInt16((wide * (h / w) - kWallThickness) / r), kLeastHexRows);
+    const double wide = (NumColumns - 1) * 3 / 2 + 2 + kThickness / r;
+    NumRows = std::max(floorToInt16((wide * (h / w) - kThickness) / r), kLeastHexRows);
 }
 
 // Which cells of a hexagonal page no wall can ever occupy.

@@ -39,6 +39,7 @@ double ScaleX = 0;
 double ScaleY = 0;
 double RelDist = 0;
 std::int16_t UsesPalette = 0;
+CheckedArray<std::uint32_t, 0, 16> ColorTable;
 
 std::int16_t DrawRow = 0;
 std::int16_t DrawColumn = 0;
@@ -84,6 +85,7 @@ std::vector<ValueRow> mazeValues() {
         valueRow("ScaleY", ScaleY),
         valueRow("RelDist", RelDist),
         valueRow("UsesPalette", UsesPalette),
+        arrayRow("ColorTable", ColorTable),
         valueRow("DrawRow", DrawRow),
         valueRow("DrawColumn", DrawColumn),
         valueRow("SubRow", SubRow),

@@ -75,6 +75,9 @@ extern double ScaleY;
 extern double RelDist;            // distance of the view point
 extern std::int16_t UsesPalette;  // brushes are numbers of palette entries; SetupPalette
 
+// Required: 17 slots, of which the last is never set (the_color_table_has_a_slot_too_many).
+extern CheckedArray<std::uint32_t, 0, 16> ColorTable;  // plain colours by number; SetupPalette
+
 // Progress of the drawing; the row painters.
 extern std::int16_t DrawRow;
 extern std::int16_t DrawColumn;
