@@ -47,6 +47,7 @@ void designMenus() {
 void designMaze() {
     designWindow(frm3DMaze, "frm3DMaze", "3DMaze by Quillbyte", kWidth, kHeight, Picture::None);
     frm3DMaze.HasFrame = true;
+    frm3DMaze.StandsAlone = true;
     frm3DMaze.Ground = &frm3DMaze.Picture;
     designSurface(frm3DMaze.Picture, "Picture", frm3DMaze, {0, 0, kWidth, kHeight});
     designPart(frm3DMaze.Text1, "Text1", frm3DMaze,

@@ -18,8 +18,10 @@ namespace ombrelia {
 namespace {
 
 constexpr int kRightAngle = 90;
+constexpr int kNewItem = 0;
 constexpr int kSolveItem = 1;
 constexpr int kClearItem = 2;
+constexpr int kExitItem = 4;
 constexpr const char* kAboutText =
     "3DMaze Easter Egg - Quillbyte Terrain Editor\r\rWritten by the Quillbyte terrain team";
 
@@ -43,7 +45,7 @@ void requestPicture() {
 
 // No picture while the window is like this.
 void stopPicture() {
-    frm3DMaze.Picture.Canvas.clear();
+    mazePainter().clear();
     DrawState = kMazeReady;
     TimerRunning = kMazeNo;
 }
@@ -227,7 +229,7 @@ void frm3DMaze_Timer(EventArgs& /*args*/) {
 
 void mnuActionItem_Click(EventArgs& args) {
     switch (args.Index) {
-        case 0:
+        case kNewItem:
             Solved = kMazeNo;
             resized();
             break;
@@ -237,7 +239,7 @@ void mnuActionItem_Click(EventArgs& args) {
         case kClearItem:
             clearMaze();
             break;
-        case 4:
+        case kExitItem:
             close();
             endProcess();
         default:

@@ -1,6 +1,8 @@
 // The maze window's handlers.
 #pragma once
 
+#include <string>
+
 #include "platform/control.h"
 
 namespace ombrelia {

@@ -7,30 +7,30 @@ namespace ombrelia {
 namespace {
 
 // Measures of one repeating unit, 3.0 wide and r deep.
-const double r = kRoot3;
+constexpr double r = kRoot3;
 constexpr double t = kThickness;
-const double P = t / r + 0.5;
-const double Q = (1 - t / r) / 2;
-const double S = (t / r + 1) * 1.5;
-const double U = t / r + 2;
-const double V = 2 - t / (2 * r);
-const double W = r * t / 2;
-const double a = r / 2;
-const double b = r / 2 + t;
-const double c = (r + t) / 2;
-const double d = r + t / 2;
-const double e = t / 2;
+constexpr double P = t / r + 0.5;
+constexpr double Q = (1 - t / r) / 2;
+constexpr double S = (t / r + 1) * 1.5;
+constexpr double U = t / r + 2;
+constexpr double V = 2 - t / (2 * r);
+constexpr double W = r * t / 2;
+constexpr double a = r / 2;
+constexpr double b = r / 2 + t;
+constexpr double c = (r + t) / 2;
+constexpr double d = r + t / 2;
+constexpr double e = t / 2;
 
 constexpr double kUnitWidth = 3;
 
-const std::array<MazeTriangle, 4> HexWallTriangles = {{
+constexpr std::array<MazeTriangle, 4> HexWallTriangles = {{
     {{{0, b}, {0, a}, {W, c}}},
     {{{Q, e}, {P, 0}, {P, t}}},
     {{{1.5, t}, {1.5, 0}, {S, e}}},
     {{{V, c}, {U, a}, {U, b}}},
 }};
 
-const std::array<MazeQuad, 6> HexWallQuads = {{
+constexpr std::array<MazeQuad, 6> HexWallQuads = {{
     {{{W, c}, {P, r}, {Q, d}, {0, b}}},
     {{{0, a}, {Q, e}, {P, t}, {W, c}}},
     {{{P, 0}, {1.5, 0}, {1.5, t}, {P, t}}},

@@ -194,6 +194,9 @@ void drawUserTrack(MazeStyle style) {
 }
 
 void drawSolution(MazeStyle style) {
+    if (MazePage.isEmpty()) {
+        return;  // before the first tick
+    }
     const bool isSquare = style == MazeStyle::Square;
     const MazeCorner door = isSquare ? MazeCorner{kSquareStart, kSquareDoor} : MazeCorner{1.0, 0};
     SolutionPlace place = isSquare ? SolutionPlace{1, 1, 1, -1, {kSquareStart, kSquareStart}}

@@ -12,12 +12,30 @@ namespace ombrelia {
 namespace {
 
 constexpr int kRampLength = 13;
-constexpr int kPaletteEntries = 16;
 constexpr int kPlainColorBits = 31;
 constexpr int kLineWidth = 2;
 
-unsigned rampValue(int index) {
-    return static_cast<unsigned>(index * 256 / kRampLength);
+MazePalette::Entry paletteEntry(int index) {
+    constexpr std::uint8_t kFlags = MazePalette::kNoCollapse;
+    switch (index) {
+        case kShadeLeftTrack:
+            return {255, 255, 0, kFlags};
+        case kShadeTrack:
+            return {0, 255, 0, kFlags};
+        case kShadeSolution:
+            return {255, 0, 0, kFlags};
+        default: {
+            const auto value = static_cast<std::uint8_t>(index * 256 / kRampLength);
+            return {value, value, value, kFlags};
+        }
+    }
+}
+
+// Required: the walls are red where the screen has plain colours, grey where it has a palette
+// (shades_are_red_without_a_palette_and_grey_with_one).
+Color plainColor(int index) {
+    const MazePalette::Entry entry = paletteEntry(index);
+    return index < kRampLength ? rgb(entry.red, 0, 0) : rgb(entry.red, entry.green, entry.blue);
 }
 
 class WindowPainter : public MazePainter {
@@ -33,12 +51,17 @@ class WindowPainter : public MazePainter {
         canvas().linePixels(from, to, shown(pen));
     }
 
+    void createPalette(const MazePalette& palette) override { palette_ = palette; }
+
   private:
     static Surface& canvas() { return frm3DMaze.Picture.Canvas; }
 
-    static Color shown(Color brush) {
-        return brush >= kPaletteIndexFlag ? paletteColor(static_cast<int>(brush & 0xFFU)) : brush;
+    Color shown(Color brush) const {
+        const MazePalette::Entry& entry = palette_.entries[brush % kShadeCount];
+        return brush < kPaletteIndexFlag ? brush : rgb(entry.red, entry.green, entry.blue);
     }
+
+    MazePalette palette_;
 };
 
 // The painter in force; none: the window's own. Written by setMazePainter alone.
@@ -83,32 +106,21 @@ void SetupPalette() {
     const DisplayColors display = services().desktop->displayColors();
     const int bits = display.planes * display.bitsPerPixel;
     const bool isShort =
-        bits < kPlainColorBits && (1L << bits) - display.fixedColors >= kPaletteEntries;
+        bits < kPlainColorBits && (1L << bits) - display.fixedColors >= kShadeCount;
     UsesPalette = isShort ? kMazeYes : kMazeNo;
-}
-
-Color paletteColor(int index) {
-    switch (index) {
-        case kShadeLeftTrack:
-            return rgb(255, 255, 0);
-        case kShadeTrack:
-            return rgb(0, 255, 0);
-        case kShadeSolution:
-            return rgb(255, 0, 0);
-        default:
-            return rgb(rampValue(index), rampValue(index), rampValue(index));
+    MazePalette palette;
+    for (int i = 0; i < kShadeCount; ++i) {
+        palette.entries[static_cast<std::size_t>(i)] = paletteEntry(i);
+        ColorTable(i) = plainColor(i);
     }
-}
-
-// Required: the walls are red where the screen has plain colours, grey where it has a palette
-// (shades_are_red_without_a_palette_and_grey_with_one).
-Color directColor(int index) {
-    return index < kRampLength ? rgb(rampValue(index), 0, 0) : paletteColor(index);
+    if (UsesPalette != kMazeNo) {
+        mazePainter().createPalette(palette);
+    }
 }
 
 Color brushOf(int index) {
     return UsesPalette != kMazeNo ? kPaletteIndexFlag + static_cast<Color>(index)
-                                  : directColor(index);
+                                  : ColorTable(index);
 }
 
 void ComputeView(MazeStyle style) {

@@ -1,11 +1,11 @@
 // The maze in perspective: from world units to pixels, from colour numbers to brushes, and the two
-// operations of which every picture is made. A square room is 1 wide, a hexagon has sides of 1; z
-// is height above the floor.
+// operations of which every picture is made. z is height above the floor.
 #pragma once
 
 #include <array>
 #include <span>
 
+#include "games/maze/maze_directions.h"
 #include "games/maze/maze_state.h"
 #include "platform/color.h"
 #include "platform/surface.h"
@@ -19,8 +19,6 @@ using MazeQuad = std::array<MazeCorner, 4>;
 using MazeTriangle = std::array<MazeCorner, 3>;
 
 inline constexpr double kWallHeight = 2;
-inline constexpr double kThickness = 0.25;
-inline constexpr double kRoot3 = 1.7320508075688772;
 
 // Numbers of colours.
 enum MazeShade : int {
@@ -36,6 +34,17 @@ enum MazeShade : int {
 // A brush or pen by the number of a palette entry has this flag; otherwise it is a plain colour.
 inline constexpr Color kPaletteIndexFlag = 0x1000000;
 
+// What a screen with a palette is asked for.
+struct MazePalette {
+    static constexpr std::uint16_t kVersion = 0x300;
+    static constexpr std::uint8_t kNoCollapse = 4;  // a colour of its own, whatever others have
+    struct Entry {
+        std::uint8_t red, green, blue, flags;
+        bool operator==(const Entry&) const = default;
+    };
+    std::array<Entry, kShadeCount> entries{};
+};
+
 // On what is painted: a screen of plain colours or one with a palette.
 class MazePainter {
   public:
@@ -43,7 +52,8 @@ class MazePainter {
     virtual void clear() = 0;
     virtual void fill(std::span<const PixelPoint> corners, Color brush) = 0;
     virtual void line(PixelPoint from, PixelPoint to, Color pen) = 0;
-    // Around everything that paints on a screen with a palette.
+    // On a screen with a palette: once, then around everything that paints.
+    virtual void createPalette(const MazePalette& /*palette*/) {}
     virtual void selectPalette() {}
     virtual void restorePalette() {}
 };
@@ -64,12 +74,8 @@ class PaletteInUse {
     PaletteInUse& operator=(const PaletteInUse&) = delete;
 };
 
-// Decides whether this screen needs a palette.
+// Decides whether this screen needs a palette, and fills ColorTable.
 void SetupPalette();
-
-// The colour behind a number 0..15 on a screen with a palette, and on one without.
-Color paletteColor(int index);
-Color directColor(int index);
 
 // What a brush of this number is, on the screen in use.
 Color brushOf(int index);
