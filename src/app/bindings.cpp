@@ -8,10 +8,13 @@
 #include "core/desk/startup.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/form2.h"
 #include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_state.h"
+#include "games/worm/worm.h"
+#include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
 
@@ -103,6 +106,11 @@ const Binding kBindings[] = {
     {&frm3DMaze, "mnuActionItem", Event::Click, mnuActionItem_Click},
     {&frm3DMaze, "mnuStyleItem", Event::Click, mnuStyleItem_Click},
     {&frm3DMaze, "mnuHelpItem", Event::Click, mnuHelpItem_Click},
+
+    {&Form2, "", Event::Load, Form2_Load},
+    {&Form2, "", Event::KeyDown, Form2_KeyDown},
+    {&Form2, "Label2", Event::KeyDown, Form2_KeyDown},
+    {&Form2, "Timer1", Event::Timer, Form2_Timer},
 };
 
 void bind(const Binding& row) {
@@ -121,8 +129,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,
-                                                 &Form1,     &HelpFrm,    &frm3DMaze};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1,
+                                                 &HelpFrm,   &frm3DMaze,  &Form2};
     return windows;
 }
 
@@ -133,6 +141,8 @@ const std::vector<ValueRow>& allValues() {
         rows.insert(rows.end(), fractal.begin(), fractal.end());
         const std::vector<ValueRow> maze = mazeValues();
         rows.insert(rows.end(), maze.begin(), maze.end());
+        const std::vector<ValueRow> worm = wormValues();
+        rows.insert(rows.end(), worm.begin(), worm.end());
         return rows;
     }();
     return values;

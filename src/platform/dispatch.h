@@ -27,8 +27,8 @@ void deliver(Control& control, Event event, EventArgs args = {});
 // control, or one inside a disabled one, gets nothing.
 void deliverMouse(Control& control, Event event, MouseButton button, double x, double y);
 
-// The user asks to close the window: its Close handler runs, or it is unloaded; now or when the
-// running handler has returned. That asks the running operation to stop, unless the window stands
+// The user closes the window: its Close handler runs, or it is unloaded; now or when the running
+// handler has returned. The latter asks the running operation to stop, unless the window stands
 // alone.
 void deliverClose(Window& window);
 

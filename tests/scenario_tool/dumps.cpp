@@ -1,8 +1,12 @@
 #include "dumps.h"
 
+#include <algorithm>
+
 #include "core/objects.h"
+#include "core/windows/form2.h"
 #include "errors.h"
 #include "games/maze/maze_state.h"
+#include "games/worm/worm_state.h"
 #include "names.h"
 
 namespace ombrelia::scenario {
@@ -116,6 +120,21 @@ void dumpMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& 
 
 void dumpUserMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
     writePage(UserPage, out);
+}
+
+void dumpWorm(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    constexpr int kLastCell = 16;
+    const int cell = std::max<int>(1, CellSize);
+    out << HeadX << " " << HeadY << " " << Heading << " " << WormLength << " " << Lives << " "
+        << Level << " " << ItemIndex << "\n"
+        << static_cast<int>(Form2.Label2.Left) / cell << " "
+        << static_cast<int>(Form2.Label2.Top) / cell << "\n";
+    for (int y = 0; y <= kLastCell; ++y) {
+        for (int x = 0; x <= kLastCell; ++x) {
+            out << Board(x, y);
+        }
+        out << "\n";
+    }
 }
 
 }  // namespace ombrelia::scenario

@@ -176,11 +176,16 @@ void QtDesktop::painted(Window& /*window*/) {
 }
 
 WindowView* QtDesktop::dialogParent() const {
-    if (auto* active = dynamic_cast<WindowView*>(QApplication::activeWindow())) {
+    const auto canBe = [](const WindowView& view) {
+        // A game can end under its dialog, and would take it along.
+        return view.isVisible() && view.window().DockedTo == nullptr && !view.window().StandsAlone;
+    };
+    auto* active = dynamic_cast<WindowView*>(QApplication::activeWindow());
+    if (active != nullptr && canBe(*active)) {
         return active;
     }
     for (const auto& [window, view] : views_) {
-        if (view->isVisible() && window->DockedTo == nullptr) {
+        if (canBe(*view)) {
             return view;
         }
     }

@@ -62,7 +62,8 @@ class QtDesktop : public Desktop {
     // Called once, when the first window has been painted.
     std::function<void()> OnFirstPaint;
 
-    // The view of the window that is active, or any that is seen; for dialogs. May be null.
+    // The view of the window that is active, or any that is seen, but never one that stands alone;
+    // for dialogs. May be null.
     WindowView* dialogParent() const;
 
     void shown(Window& window) override;
