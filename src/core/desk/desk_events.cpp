@@ -11,6 +11,7 @@
 #include "core/windows/small_windows.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"
+#include "platform/numeric.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
 
@@ -87,6 +88,17 @@ void VertScroller_MouseMove(EventArgs& args) {
     if (args.Button == MouseButton::Left) {
         dragThumb(args.Index, args.X);
     }
+}
+
+void Slider_AskValue(EventArgs& args) {
+    const SliderRecord& record = SliderValues(args.Index);
+    args.Value = record.Value;
+    args.Minimum = record.Min;
+    args.Maximum = record.Max;
+}
+
+void Slider_SetValue(EventArgs& args) {
+    setSlider(args.Index, roundToInt32(args.Value));
 }
 
 void Scroller_MouseDown(EventArgs& args) {
