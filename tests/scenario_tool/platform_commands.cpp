@@ -37,6 +37,17 @@ void answerSave(Session& session, const std::string& path) {
     session.platform.SaveAnswers.push_back(path);
 }
 
+void answerOpen(Session& session, const std::string& path) {
+    session.platform.OpenAnswers.push_back(path);
+}
+
+void tellOfFile(Session& session, const Fields& fields) {
+    if (fields.size() > 1 && fields[1] != "absent") {
+        throw LineError{"a file is there or absent"};
+    }
+    session.platform.Files[fields[0]] = fields.size() == 1;
+}
+
 struct MessageAnswer {
     const char* word;
     int answer;
@@ -57,7 +68,8 @@ struct DialogAnswer {
     const char* dialog;
     void (*queue)(Session& session, const std::string& answer);
 };
-constexpr DialogAnswer kDialogAnswers[] = {{"save", answerSave}, {"message", answerMessage}};
+constexpr DialogAnswer kDialogAnswers[] = {
+    {"save", answerSave}, {"open", answerOpen}, {"message", answerMessage}};
 
 void queueAnswer(Session& session, const Fields& fields) {
     const auto* row = std::find_if(std::begin(kDialogAnswers), std::end(kDialogAnswers),
@@ -75,6 +87,7 @@ constexpr Command kCommands[] = {
     {"clock-step", 1, 1, Acts::Anywhere, setClockStep},
     {"setting", 3, 3, Acts::Anywhere, setSetting},
     {"answer", 2, 2, Acts::Anywhere, queueAnswer},
+    {"file", 1, 2, Acts::Anywhere, tellOfFile},
 };
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "files/bitmap_export.h"
+#include "files/bitmap_import.h"
 #include "panels/option_frames.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
@@ -33,6 +34,11 @@ constexpr int kResolutionSlider = 4;
 void updateView() {
     SwitchViewMode(kMode2D);
     UpdateMapView(1);
+}
+
+void updateViewAndImport() {
+    SwitchViewMode(kMode2D);
+    ImportCommand();
 }
 
 void showMenu() {
@@ -79,13 +85,21 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {button::kClose, ExitEditor, true},         {button::kUpdate2D, updateView, true},
-    {button::kSave, SaveCommand, false},        {button::kNewMap, StartNewMap, true},
-    {button::kOptions, showOptions, false},     {button::kExit, ExitEditor, true},
-    {button::kMenu, showMenu, false},           {button::kDraw3D, draw3D, true},
-    {button::kGenerate, GenerateCommand, true}, {button::kAbout, showAbout, false},
-    {button::kStop, requestStop, false},        {button::kRedrawColors, redrawWithColors, true},
-    {button::kMinimize, minimizeEditor, false}, {button::kShowHelpBox, showOrHideHint, false},
+    {button::kClose, ExitEditor, true},
+    {button::kUpdate2D, updateView, true},
+    {button::kImport, updateViewAndImport, true},
+    {button::kSave, SaveCommand, false},
+    {button::kNewMap, StartNewMap, true},
+    {button::kOptions, showOptions, false},
+    {button::kExit, ExitEditor, true},
+    {button::kMenu, showMenu, false},
+    {button::kDraw3D, draw3D, true},
+    {button::kGenerate, GenerateCommand, true},
+    {button::kAbout, showAbout, false},
+    {button::kStop, requestStop, false},
+    {button::kRedrawColors, redrawWithColors, true},
+    {button::kMinimize, minimizeEditor, false},
+    {button::kShowHelpBox, showOrHideHint, false},
 };
 
 void paintState(int button, int state) {
@@ -171,6 +185,17 @@ void RunCommand(int& i) {
     } else if (isKnown) {
         command->execute();
     }
+}
+
+void ImportCommand() {
+    if (!importPicture()) {
+        return;
+    }
+    // The selection clears the flag, which no tick would see any more.
+    finishStop();
+    paintState(button::kMenu, kUp);
+    int menu = button::kMenu;
+    RunCommand(menu);
 }
 
 }  // namespace ombrelia

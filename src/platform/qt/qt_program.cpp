@@ -5,6 +5,7 @@
 
 #include "platform/generator_random.h"
 #include "platform/qt/accessibility.h"
+#include "platform/qt/picture_loader.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
 
@@ -47,8 +48,9 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     DiskFiles files;
     QtClock clock;
     GeneratorRandom random;
+    QtPictureLoader pictures;
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
-    services() = {&dialogs, &settings, &files, &clock, &random, &desktop, &failures};
+    services() = {&dialogs, &settings, &files, &clock, &random, &desktop, &failures, &pictures};
     desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);
