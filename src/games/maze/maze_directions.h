@@ -58,10 +58,34 @@ constexpr MazeOrders<kDirections, kOrders> makeMazeOrders() {
     return orders;
 }
 
+// For each order and each set of directions (a bit for each number) the places at which they are
+// tried, a bit for each place: so the first way open is found without a jump for each try.
+template <std::size_t kDirections, std::size_t kOrders>
+using MazePlaces = std::array<std::array<std::uint8_t, std::size_t{1} << kDirections>, kOrders>;
+
+template <std::size_t kDirections, std::size_t kOrders>
+constexpr MazePlaces<kDirections, kOrders> makeMazePlaces(
+    const MazeOrders<kDirections, kOrders>& orders) {
+    MazePlaces<kDirections, kOrders> places{};
+    for (std::size_t n = 0; n < kOrders; ++n) {
+        for (std::size_t place = 0; place < kDirections; ++place) {
+            const std::size_t bit = std::size_t{1} << orders[n][place];
+            places[n][bit] = static_cast<std::uint8_t>(1U << place);
+        }
+        for (std::size_t set = 1; set < places[n].size(); ++set) {
+            const std::size_t rest = set & (set - 1);
+            places[n][set] = static_cast<std::uint8_t>(places[n][rest] | places[n][set ^ rest]);
+        }
+    }
+    return places;
+}
+
 inline constexpr std::size_t kSquareOrderCount = 24;
 inline constexpr std::size_t kHexOrderCount = 720;
 
 extern const MazeOrders<4, kSquareOrderCount> kSquareOrders;
 extern const MazeOrders<6, kHexOrderCount> kHexOrders;
+extern const MazePlaces<4, kSquareOrderCount> kSquarePlaces;
+extern const MazePlaces<6, kHexOrderCount> kHexPlaces;
 
 }  // namespace ombrelia

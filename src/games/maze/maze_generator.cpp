@@ -1,6 +1,8 @@
 #include "games/maze/maze_generator.h"
 
 #include <algorithm>
+#include <bit>
+#include <vector>
 
 #include "games/maze/maze_directions.h"
 #include "platform/numeric.h"
@@ -63,39 +65,45 @@ template <int kModulus, std::size_t kDirections, std::size_t kOrders>
 class Carver {
   public:
     Carver(const SeedDigits& digits, const std::array<MazeDelta, kDirections>& deltas,
-           const MazeOrders<kDirections, kOrders>& orders)
-        : random(digits), orders_(orders) {
+           const MazeOrders<kDirections, kOrders>& orders,
+           const MazePlaces<kDirections, kOrders>& places)
+        : random(digits), orders_(orders), places_(places) {
         for (std::size_t d = 0; d < kDirections; ++d) {
             steps_[d] = MazePage.step(deltas[d].x, deltas[d].y);
         }
     }
 
     void carveFrom(int x, int y) {
+        // All in locals: a write to a cell could change anything else.
         std::uint8_t* const cells = MazePage.data();
+        MazeRandom<kModulus> draws = random;
+        std::vector<Branch> kept(static_cast<std::size_t>(NumRooms) + 1);
+        Branch* const branches = kept.data();
+        std::size_t top = 0;
         int room = MazePage.offset(x, y);
         cells[room] = kMazeOpen;
-        int top = -1;
-        do {
-            std::size_t place = 0;
-            int order = drawOrder();
-            while (!findWay(cells, room, order, place) && top >= 0) {
-                const MazeStep& back = MazeStack[static_cast<std::size_t>(top)];
-                place = back.DirectionIndex;
-                order = back.PermutationIndex;
-                room -= 2 * stepOf(order, place);
-                --top;
-                ++place;
+        while (true) {
+            int order = drawOrder(draws);
+            unsigned ways = waysFrom(cells, room, order);
+            while (ways == 0) {
+                if (top == 0) {
+                    return;
+                }
+                const Branch& back = branches[--top];
+                room = back.room;
+                order = back.order;
+                ways = back.ways & waysFrom(cells, room, order);
             }
-            if (place < kDirections) {
-                ++top;
-                MazeStack[static_cast<std::size_t>(top)] = {static_cast<std::uint8_t>(place),
-                                                            static_cast<std::int16_t>(order)};
-                const int step = stepOf(order, place);
-                cells[room + step] = kMazeOpen;
-                room += 2 * step;
-                cells[room] = kMazeOpen;
-            }
-        } while (top >= 0);
+            // A room is come back to only for a way that is open now: later none opens.
+            const unsigned others = ways & (ways - 1);
+            branches[top] = {room, static_cast<std::int16_t>(order),
+                             static_cast<std::uint8_t>(others)};
+            top += others != 0 ? 1 : 0;
+            const int step = stepOf(order, static_cast<std::size_t>(std::countr_zero(ways)));
+            cells[room + step] = kMazeOpen;
+            room += 2 * step;
+            cells[room] = kMazeOpen;
+        }
     }
 
     MazeRandom<kModulus> random;
@@ -106,34 +114,40 @@ class Carver {
     }
 
     // Rejection, not reduction: numbers behind the last order are drawn again.
-    int drawOrder() {
-        int order = random();
+    static int drawOrder(MazeRandom<kModulus>& draws) {
+        int order = draws();
         while (order >= static_cast<int>(kOrders)) {
-            order = random();
+            order = draws();
         }
         return order;
     }
 
-    // Moves place on to the first direction that leads to an unvisited room.
-    bool findWay(const std::uint8_t* cells, int room, int order, std::size_t& place) const {
-        const auto& directions = orders_[static_cast<std::size_t>(order)];
-        while (place < kDirections) {
-            if (cells[room + 2 * steps_[directions[place]]] == kMazeWall) {
-                return true;
-            }
-            ++place;
+    // The places of an order at which a direction leads to an unvisited room, a bit for each.
+    unsigned waysFrom(const std::uint8_t* cells, int room, int order) const {
+        std::size_t free = 0;
+        for (std::size_t d = 0; d < kDirections; ++d) {
+            free |= static_cast<std::size_t>(cells[room + 2 * steps_[d]] == kMazeWall) << d;
         }
-        return false;
+        return places_[static_cast<std::size_t>(order)][free];
     }
 
+    // A room with more ways than the one taken, and the order that it was left with.
+    struct Branch {
+        std::int32_t room;
+        std::int16_t order;
+        std::uint8_t ways;
+    };
+
     const MazeOrders<kDirections, kOrders>& orders_;
+    const MazePlaces<kDirections, kOrders>& places_;
     std::array<int, kDirections> steps_{};
 };
 
 void generateSquare(const SeedDigits& digits) {
     constexpr int kModulus = 29;
     MazePage.fill(kMazeWall);
-    Carver<kModulus, 4, kSquareOrderCount> carver(digits, kSquareDeltas, kSquareOrders);
+    Carver<kModulus, 4, kSquareOrderCount> carver(digits, kSquareDeltas, kSquareOrders,
+                                                  kSquarePlaces);
     const auto drawPlace = [&carver](int count) {
         int acc = 0;
         for (int i = 0; i < 3; ++i) {
@@ -150,7 +164,7 @@ void generateSquare(const SeedDigits& digits) {
 
 void generateHexagonal(const SeedDigits& digits) {
     fillTemplate();
-    Carver<727, 6, kHexOrderCount> carver(digits, kHexDeltas, kHexOrders);
+    Carver<727, 6, kHexOrderCount> carver(digits, kHexDeltas, kHexOrders, kHexPlaces);
     const int k = carver.random() % NumColumns;
     const int v = carver.random();
     const bool isOdd = k % 2 == 1;
@@ -185,7 +199,7 @@ void completeMazeSize(MazeStyle style) {
 void allocateMaze() {
     MazePage.allocate(MaxX, MaxY);
     UserPage.allocate(MaxX, MaxY);
-    MazeStack.assign(static_cast<std::size_t>(NumRooms) + 1, {0, 0});
+    MazeStack.assign(static_cast<std::size_t>(NumRooms) + 1, {});
 }
 
 void GenerateMaze(MazeStyle style, const SeedDigits& digits) {

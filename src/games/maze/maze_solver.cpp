@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <vector>
 
 #include "games/maze/maze_directions.h"
 #include "games/maze/maze_generator.h"
@@ -27,16 +29,18 @@ class Solver {
         top_ = -1;
         cells_[room_] = kMazeTrack;
         while (true) {
-            std::size_t d = 0;
-            while (true) {
-                while (d < kDirections && cells_[room_ + steps_[d]] != kMazeOpen) {
-                    ++d;
+            unsigned ways = openWays();
+            while (ways == 0) {
+                const Branch& back = branches_[--branchCount_];
+                ways = back.ways;
+                while (top_ > back.top) {
+                    retreat();
                 }
-                if (d < kDirections) {
-                    break;
-                }
-                d = retreat() + 1;
             }
+            const auto d = static_cast<std::size_t>(std::countr_zero(ways));
+            const unsigned others = ways & (ways - 1);
+            branches_[branchCount_] = {top_, others};
+            branchCount_ += others != 0 ? 1 : 0;
             const int passage = room_ + steps_[d];
             cells_[passage] = kMazeTrack;
             if (passage == exit) {
@@ -63,15 +67,22 @@ class Solver {
     }
 
   private:
-    // Back to the room before; the direction that led from it.
-    std::size_t retreat() {
-        const std::size_t d = MazeStack[static_cast<std::size_t>(top_)].DirectionIndex;
+    // Directions in which the room has an untried passage, a bit for each.
+    unsigned openWays() const {
+        unsigned ways = 0;
+        for (std::size_t d = 0; d < kDirections; ++d) {
+            ways |= static_cast<unsigned>(cells_[room_ + steps_[d]] == kMazeOpen) << d;
+        }
+        return ways;
+    }
+
+    // Back to the room before.
+    void retreat() {
+        const int step = steps_[MazeStack[static_cast<std::size_t>(top_)].DirectionIndex];
         cells_[room_] = kMazeOpen;
-        room_ -= steps_[d];
-        cells_[room_] = kMazeOpen;
-        room_ -= steps_[d];
+        cells_[room_ - step] = kMazeOpen;
+        room_ -= 2 * step;
         --top_;
-        return d;
     }
 
     int adjacencyOf(int room) const {
@@ -84,7 +95,15 @@ class Solver {
         return count;
     }
 
+    // A room with untried ways, by its place on the way from the start.
+    struct Branch {
+        int top;
+        unsigned ways;
+    };
+
     std::uint8_t* cells_;
+    std::vector<Branch> branches_ = std::vector<Branch>(static_cast<std::size_t>(NumRooms) + 1);
+    std::size_t branchCount_ = 0;
     std::array<int, kDirections> steps_{};
     int room_ = 0;
     int top_ = -1;  // of the stack: rooms before room_ on the solution, less one

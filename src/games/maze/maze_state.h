@@ -23,16 +23,15 @@ extern std::int16_t MaxX;        // largest indices of the page
 extern std::int16_t MaxY;
 extern std::int16_t NumRooms;
 
-// One entry of the stack: the direction taken from a room, and the row of the permutation tables.
+// One entry of the stack: the direction taken from a room.
 struct MazeStep {
     std::uint8_t DirectionIndex;
-    std::int16_t PermutationIndex;
 };
 
 // Empty while no maze exists; allocated for each new one.
 extern MazeGrid MazePage;                // the maze; generator, solver
 extern MazeGrid UserPage;                // the player's walk; keys
-extern std::vector<MazeStep> MazeStack;  // one entry a room; generator, solver
+extern std::vector<MazeStep> MazeStack;  // the way from the first room; solver
 extern std::int16_t RoomsInSolution;     // of the maze on show; CreateMaze
 extern std::int16_t Adjacency;           // of the maze on show; CreateMaze
 

@@ -26,14 +26,8 @@ std::vector<PlainStep> firstRow(bool isHex) {
 }
 
 bool isTemplateOpen(const PlainMaze& maze, int x, int y) {
-    int xMod = 0;
-    int yMod = 0;
-    for (int i = 0; i <= x; ++i) {
-        xMod = xMod == 7 ? 0 : xMod + 1;
-    }
-    for (int i = 0; i <= y; ++i) {
-        yMod = yMod == 3 ? 0 : yMod + 1;
-    }
+    const int xMod = (x + 1) % 8;
+    const int yMod = (y + 1) % 4;
     if (yMod == 1) {
         return (xMod != 0 || y == 0 || y == maze.maxY) && xMod != 3 && xMod != 4 && xMod != 5;
     }
@@ -212,7 +206,10 @@ PlainMaze plainSize(bool isHex, double w, double h) {
 }
 
 void plainGenerate(PlainMaze& maze, const PlainDigits& digits) {
-    const auto deltas = plainDeltas(maze.isHex);
+    // Set up once, as any maze of a style has the same.
+    static const std::vector<std::vector<PlainStep>> tables[] = {plainDeltas(false),
+                                                                 plainDeltas(true)};
+    const auto& deltas = tables[maze.isHex ? 1 : 0];
     PlainRandom random(digits, maze.isHex ? 727 : 29);
     maze.page.assign(static_cast<std::size_t>(maze.maxX) + 1,
                      std::vector<int>(static_cast<std::size_t>(maze.maxY) + 1, 0));
