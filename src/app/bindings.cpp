@@ -9,7 +9,10 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/form2.h"
+#include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
+#include "games/maze/maze_events.h"
+#include "games/maze/maze_state.h"
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
@@ -96,6 +99,18 @@ const Binding kBindings[] = {
     {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
     {&Form1, "Combo1", Event::Click, Combo1_Click},
 
+    {&frm3DMaze, "", Event::Load, frm3DMaze_Load},
+    {&frm3DMaze, "", Event::Unload, frm3DMaze_Unload},
+    {&frm3DMaze, "", Event::Resize, frm3DMaze_Resize},
+    {&frm3DMaze, "", Event::Paint, frm3DMaze_Paint},
+    {&frm3DMaze, "", Event::KeyDown, frm3DMaze_KeyDown},
+    {&frm3DMaze, "Timer1", Event::Timer, frm3DMaze_Timer},
+    {&frm3DMaze, "VScroll1", Event::Change, VScroll1_Change},
+    {&frm3DMaze, "VScroll1", Event::Scroll, VScroll1_Scroll},
+    {&frm3DMaze, "mnuActionItem", Event::Click, mnuActionItem_Click},
+    {&frm3DMaze, "mnuStyleItem", Event::Click, mnuStyleItem_Click},
+    {&frm3DMaze, "mnuHelpItem", Event::Click, mnuHelpItem_Click},
+
     {&Form2, "", Event::Load, Form2_Load},
     {&Form2, "", Event::KeyDown, Form2_KeyDown},
     {&Form2, "Label2", Event::KeyDown, Form2_KeyDown},
@@ -118,8 +133,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,
-                                                 &Form1,     &HelpFrm,    &Form2};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1,
+                                                 &HelpFrm,   &frm3DMaze,  &Form2};
     return windows;
 }
 
@@ -128,6 +143,8 @@ const std::vector<ValueRow>& allValues() {
         std::vector<ValueRow> rows = coreValues();
         const std::vector<ValueRow> fractal = fractalValues();
         rows.insert(rows.end(), fractal.begin(), fractal.end());
+        const std::vector<ValueRow> maze = mazeValues();
+        rows.insert(rows.end(), maze.begin(), maze.end());
         const std::vector<ValueRow> worm = wormValues();
         rows.insert(rows.end(), worm.begin(), worm.end());
         return rows;
@@ -150,6 +167,7 @@ void resetProcess() {
     for (const ValueRow& row : allValues()) {
         row.reset();
     }
+    releaseMaze();
     for (Window* window : allWindows()) {
         window->Loaded = false;
         window->Visible = false;

@@ -21,7 +21,18 @@ namespace ombrelia {
 struct Control;
 struct Window;
 
-enum class ControlKind { Window, Image, Label, PictureBox, Line, ListBox, Timer };
+enum class ControlKind {
+    Window,
+    Image,
+    Label,
+    PictureBox,
+    Line,
+    ListBox,
+    Timer,
+    TextLine,
+    ScrollBar,
+    MenuItem
+};
 
 enum class Event {
     MouseDown,
@@ -36,6 +47,10 @@ enum class Event {
     Unload,
     Close,  // the user closes the window; a window without this handler is unloaded
     Timer,
+    Resize,    // of a window: its size changed, or it was minimized or brought back
+    Paint,     // of a window: asked for by requestPaint, or its picture was uncovered
+    Change,    // of a scroll bar: its value was set
+    Scroll,    // of a scroll bar: its thumb is being dragged
     AskValue,  // assistive technology asks for Value, Minimum and Maximum
     SetValue,  // and wishes another Value
     Count
@@ -155,6 +170,27 @@ struct ListBox : Control {
 struct Timer : Control {
     Timer() : Control(ControlKind::Timer) {}
     int Interval = 0;  // milliseconds
+};
+
+// A line of text in a frame that says how things stand; Caption is the text.
+struct TextLine : Control {
+    TextLine() : Control(ControlKind::TextLine) {}
+};
+
+// An upright scroll bar.
+struct ScrollBar : Control {
+    ScrollBar() : Control(ControlKind::ScrollBar) {}
+    int Min = 0;
+    int Max = 0;
+    int LargeChange = 1;
+    int Value = 0;
+};
+
+// A menu in a window's menu bar (its parent is the window), or an entry of one (its parent is the
+// menu). "&" in the caption stands before its access key; "-" alone is a separator.
+struct MenuItem : Control {
+    MenuItem() : Control(ControlKind::MenuItem) {}
+    bool Checked = false;
 };
 
 // A window, without a system frame unless it says otherwise. Left and Top are the place of its

@@ -134,6 +134,22 @@ void deliverClose(Window& window) {
     }
 }
 
+void deliverResize(Window& window, int width, int height) {
+    window.Width = width;
+    window.Height = height;
+    if (window.Ground != nullptr) {
+        window.Ground->Width = width;
+        window.Ground->Height = height;
+        window.Ground->makeCanvas();
+    }
+    deliver(window, Event::Resize);
+}
+
+void deliverMinimized(Window& window, bool isMinimized) {
+    window.Minimized = isMinimized;
+    deliver(window, Event::Resize);
+}
+
 bool isNested() {
     return state.depth > 1;
 }

@@ -32,6 +32,10 @@ void deliverMouse(Control& control, Event event, MouseButton button, double x, d
 // alone.
 void deliverClose(Window& window);
 
+// The window got another size, in whole client pixels, or was minimized or brought back.
+void deliverResize(Window& window, int width, int height);
+void deliverMinimized(Window& window, bool isMinimized);
+
 // Whether the running handler was called inside a yield of another one.
 bool isNested();
 

@@ -17,7 +17,12 @@ struct Window;
 
 // Styles of a message box, as one number: buttons + icon + default button.
 inline constexpr int kYesNoStopSecondDefault = 276;
+inline constexpr int kOkBox = 0;
 inline constexpr int kErrorBox = 16;
+
+// The title that a message has of itself.
+inline constexpr const char* kDefaultTitle = "Ombrelia Terrain Editor";
+
 inline constexpr int kAnswerYes = 6;
 inline constexpr int kAnswerNo = 7;
 inline constexpr int kAnswerOk = 1;
@@ -84,6 +89,13 @@ class RandomSource {
     virtual void draw(std::span<float> draws) = 0;
 };
 
+// How the screen shows colours.
+struct DisplayColors {
+    int bitsPerPixel = 32;
+    int planes = 1;
+    int fixedColors = -1;  // colours that no palette changes; -1: there is no palette
+};
+
 // Windows on the screen, the event loop, and what hangs on them.
 class Desktop {
   public:
@@ -105,6 +117,7 @@ class Desktop {
     virtual void beginDrag(Control& source) = 0;
     // Caption of this program's active window; empty if another program's is active.
     virtual std::string activeWindowCaption() = 0;
+    virtual DisplayColors displayColors() { return {}; }
     virtual void openWebPage(const std::string& address) = 0;
     // Called once when the process is to end; nothing of the logic runs afterwards.
     virtual void end() = 0;

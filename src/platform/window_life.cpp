@@ -20,9 +20,13 @@ void loadWindow(Window& window) {
 
 void showWindow(Window& window) {
     loadWindow(window);
+    const bool isFirst = !window.Visible;
     window.Visible = true;
     window.Minimized = false;
     services().desktop->shown(window);
+    if (isFirst) {
+        raise(window, Event::Resize);
+    }
 }
 
 void hideWindow(Window& window) {
@@ -50,6 +54,12 @@ void minimizeWindow(Window& window) {
 
 void refreshControl(Control& control) {
     services().desktop->refresh(control);
+}
+
+void requestPaint(Window& window) {
+    if (window.Visible && !window.Minimized) {
+        raise(window, Event::Paint);
+    }
 }
 
 void endProcess() {

@@ -8,7 +8,7 @@ namespace ombrelia {
 // Brings the window to its designed state and raises Load; nothing if it is loaded already.
 void loadWindow(Window& window);
 
-// Loads the window if need be and shows it.
+// Loads the window if need be and shows it. One that is shown for the first time gets Resize.
 void showWindow(Window& window);
 
 // Takes the window off the screen; it stays loaded.
@@ -21,6 +21,9 @@ void minimizeWindow(Window& window);
 
 // Shows what was drawn so far on the control's window.
 void refreshControl(Control& control);
+
+// Raises the window's Paint, unless it is not to be seen.
+void requestPaint(Window& window);
 
 // Ends the process: nothing behind this call runs.
 [[noreturn]] void endProcess();

@@ -141,7 +141,42 @@ void state(Session& /*session*/, const Fields& fields) {
     if (fields[1] != "minimized" && fields[1] != "normal") {
         throw LineError{"a window is minimized or normal"};
     }
-    window.Minimized = fields[1] == "minimized";
+    deliverMinimized(window, fields[1] == "minimized");
+}
+
+void scroll(Session& /*session*/, const Fields& fields) {
+    Control& control = loadedControlNamed(fields[0]);
+    if (control.Kind != ControlKind::ScrollBar) {
+        throw LineError{fields[0] + " is no scroll bar"};
+    }
+    auto& bar = static_cast<ScrollBar&>(control);
+    const auto value = static_cast<int>(wholeNumber(fields[1], bar.Min, bar.Max));
+    if (!isEnabled(bar)) {
+        return;
+    }
+    bar.Value = value;
+    deliver(bar, Event::Scroll);
+    deliver(bar, Event::Change);
+}
+
+void menu(Session& /*session*/, const Fields& fields) {
+    Control& control = loadedControlNamed(fields[0]);
+    if (control.Kind != ControlKind::MenuItem) {
+        throw LineError{fields[0] + " is no menu item"};
+    }
+    if (isEnabled(control)) {
+        deliver(control, Event::Click);
+    }
+}
+
+void resize(Session& /*session*/, const Fields& fields) {
+    constexpr long kMostPixels = 16000;
+    Window& window = loadedWindowNamed(fields[0]);
+    const auto width = static_cast<int>(wholeNumber(fields[1], 0, kMostPixels));
+    const auto height = static_cast<int>(wholeNumber(fields[2], 0, kMostPixels));
+    if (width != window.Width || height != window.Height) {
+        deliverResize(window, width, height);
+    }
 }
 
 void close(Session& /*session*/, const Fields& fields) {
@@ -177,6 +212,9 @@ constexpr Command kCommands[] = {
     {"ticks", 1, 1, Acts::Anywhere, switchTicks},
     {"on-yield", 2, kAnyNumber, Acts::Anywhere, onYield},
     {"choose", 2, 2, Acts::OnEditor, choose},
+    {"scroll", 2, 2, Acts::OnEditor, scroll},
+    {"menu", 1, 1, Acts::OnEditor, menu},
+    {"resize", 3, 3, Acts::OnEditor, resize},
     {"state", 2, 2, Acts::OnEditor, state},
     {"close", 1, 1, Acts::OnEditor, close},
 };

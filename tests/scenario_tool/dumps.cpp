@@ -5,6 +5,7 @@
 #include "core/objects.h"
 #include "core/windows/form2.h"
 #include "errors.h"
+#include "games/maze/maze_state.h"
 #include "games/worm/worm_state.h"
 #include "names.h"
 
@@ -97,6 +98,28 @@ void dumpCalls(const Session& session, const Fields& /*none*/, std::ostream& out
     for (const std::string& call : session.platform.Calls) {
         out << call << "\n";
     }
+}
+
+namespace {
+
+void writePage(const MazeGrid& page, std::ostream& out) {
+    for (int y = 0; y <= page.maxY(); ++y) {
+        for (int x = 0; x <= page.maxX(); ++x) {
+            out << static_cast<int>(page(x, y));
+        }
+        out << "\n";
+    }
+}
+
+}  // namespace
+
+void dumpMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    out << RoomsInSolution << " " << Adjacency << "\n";
+    writePage(MazePage, out);
+}
+
+void dumpUserMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    writePage(UserPage, out);
 }
 
 void dumpWorm(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {

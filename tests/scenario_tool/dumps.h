@@ -19,6 +19,8 @@ void dumpSliders(const Session& session, const Fields& none, std::ostream& out);
 void dumpColors(const Session& session, const Fields& none, std::ostream& out);
 void dumpSettings(const Session& session, const Fields& none, std::ostream& out);
 void dumpCalls(const Session& session, const Fields& none, std::ostream& out);
+void dumpMaze(const Session& session, const Fields& none, std::ostream& out);
+void dumpUserMaze(const Session& session, const Fields& none, std::ostream& out);
 void dumpWorm(const Session& session, const Fields& none, std::ostream& out);
 
 }  // namespace ombrelia::scenario

@@ -11,6 +11,8 @@
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "errors.h"
+#include "games/maze/maze_generator.h"
+#include "games/maze/maze_solver.h"
 #include "names.h"
 #include "panels/sliders.h"
 #include "platform/dispatch.h"
@@ -121,6 +123,34 @@ void assign(Session& session, const Fields& fields) {
     assignValue(session, fields[0], fields[1]);
 }
 
+// STYLE COLUMNS ROWS DIGITS
+void maze(Session& /*session*/, const Fields& fields) {
+    constexpr long kLeast = 2;
+    if (fields[0] != "square" && fields[0] != "hex") {
+        throw LineError{"a maze is square or hex"};
+    }
+    const MazeStyle style = fields[0] == "hex" ? MazeStyle::Hexagonal : MazeStyle::Square;
+    const std::string& text = fields[3];
+    SeedDigits digits{};
+    if (text.size() != digits.size() || text.find_first_not_of("0123456789") != std::string::npos) {
+        throw LineError{"\"" + text + "\" is not eight digits"};
+    }
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        digits[i] = static_cast<std::uint8_t>(text[i] - '0');
+    }
+    NumColumns = static_cast<std::int16_t>(wholeNumber(fields[1], kLeast, kHighest16));
+    NumRows = static_cast<std::int16_t>(wholeNumber(fields[2], kLeast, kHighest16));
+    if (style == MazeStyle::Hexagonal && NumColumns % 2 == 0) {
+        throw LineError{"a hexagonal maze has an odd number of columns"};
+    }
+    runHandler([style, &digits] {
+        completeMazeSize(style);
+        allocateMaze();
+        GenerateMaze(style, digits);
+        SolveMaze(style, RoomsInSolution, Adjacency);
+    });
+}
+
 void show(Session& /*session*/, const Fields& fields) {
     Window& window = windowNamed(fields[0]);
     runHandler([&window] { showWindow(window); });
@@ -130,7 +160,8 @@ constexpr Command kCommands[] = {
     {"run", 1, 1, Acts::OnEditor, run},          {"slider", 2, 2, Acts::OnEditor, setSlider},
     {"button", 2, 2, Acts::OnEditor, setButton}, {"fill", 1, 1, Acts::OnEditor, fill},
     {"cell", 3, 3, Acts::OnEditor, setCell},     {"heights", 1, 1, Acts::OnEditor, readHeights},
-    {"assign", 2, 2, Acts::OnEditor, assign},    {"show", 1, 1, Acts::OnEditor, show},
+    {"assign", 2, 2, Acts::OnEditor, assign},    {"maze", 4, 4, Acts::OnEditor, maze},
+    {"show", 1, 1, Acts::OnEditor, show},
 };
 
 }  // namespace

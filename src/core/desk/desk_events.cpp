@@ -7,11 +7,13 @@
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"
 #include "platform/numeric.h"
 #include "platform/services.h"
+#include "platform/window_life.h"
 
 namespace ombrelia {
 
@@ -70,6 +72,7 @@ void Label32_DragDrop(EventArgs& /*args*/) {
     if (EggArmed == 1) {
         EggArmed = 0;
         Form1.Label11.Caption = AppName;
+        showWindow(frm3DMaze);
     }
 }
 

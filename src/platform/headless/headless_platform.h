@@ -83,6 +83,9 @@ class HeadlessPlatform : public Dialogs,
     // Caption that activeWindowCaption gives.
     std::string ActiveCaption = "Ombrelia Terrain Editor";
 
+    // What the screen is pretended to be.
+    DisplayColors Display;
+
     std::string askSaveFile(const std::string& title, const std::string& filter) override;
     std::string askOpenFile(const std::string& title, const std::string& filter) override;
     Color askColor(const std::string& title, Color start) override;
@@ -112,6 +115,7 @@ class HeadlessPlatform : public Dialogs,
     void beginWindowMove(Window& window) override;
     void beginDrag(Control& source) override;
     std::string activeWindowCaption() override;
+    DisplayColors displayColors() override { return Display; }
     void openWebPage(const std::string& address) override;
     void end() override;
     void failed(const std::string& sentence) override;

@@ -56,6 +56,9 @@ class Painting {
             case ControlKind::ListBox:
                 drawList(static_cast<const ListBox&>(control), place);
                 break;
+            case ControlKind::TextLine:
+                drawTextLine(control, place);
+                break;
             default:
                 drawFace(control, place);
                 break;
@@ -109,6 +112,18 @@ class Painting {
             reinterpret_cast<const uchar*>(canvas.row(0)), canvas.width(), canvas.height(),
             canvas.ShowsGround ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
         painter_.drawImage(place.adjusted(border, border, -border, -border), image);
+    }
+
+    void drawTextLine(const Control& text, const QRect& place) {
+        const double unit = tools_.scale;
+        painter_.fillRect(place, QColor(0x1c, 0x26, 0x35));
+        painter_.fillRect(place.x(), place.y(), place.width(), static_cast<int>(std::lround(unit)),
+                          QColor(0x4c, 0x62, 0x85));
+        painter_.setFont(fontFor(11 * unit, false, false));
+        painter_.setPen(QColor(0xee, 0xf3, 0xfa));
+        const int margin = static_cast<int>(std::lround(6 * unit));
+        painter_.drawText(place.adjusted(margin, 0, -margin, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                          QString::fromStdString(text.Caption));
     }
 
     void drawList(const ListBox& list, const QRect& place) {
@@ -166,7 +181,11 @@ QRect deviceRect(const Control& control, double scale) {
         border = static_cast<const PictureBox&>(control).Border;
     }
     const double left = corner.x - border;
-    const double top = corner.y - border;
+    double top = corner.y - border;
+    if (control.Kind == ControlKind::TextLine) {
+        // To be read even in a window that was made too small to be laid out.
+        top = std::min(top, control.Owner->Height - control.Height);
+    }
     const auto device = [scale](double units) {
         return static_cast<int>(std::lround(units * scale));
     };

@@ -71,12 +71,20 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
     }
     setMouseTracking(true);
     setWindowTitle(QString::fromStdString(window.Caption));
+    if (window.Ground != nullptr) {
+        frame_ = std::make_unique<FrameParts>(*this, window, desktop);
+    }
 }
 
 void WindowView::place() {
     const double logicalPerUnit = scale_ / devicePixelRatioF();
-    setFixedSize(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
-                 static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
+    const QSize size(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
+                     static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
+    if (frame_ != nullptr) {
+        frame_->place(size, logicalPerUnit);
+    } else {
+        setFixedSize(size);
+    }
     if (window_.DockedTo != nullptr) {
         followRecord();
         return;
@@ -127,7 +135,7 @@ WindowView::Shown WindowView::lookOf(const Control& control) const {
 
 QRect WindowView::logicalRect(const QRect& device) const {
     const double ratio = devicePixelRatioF();
-    return QRectF(device.x() / ratio, device.y() / ratio, device.width() / ratio,
+    return QRectF(device.x() / ratio, device.y() / ratio + menuHeight(), device.width() / ratio,
                   device.height() / ratio)
         .toAlignedRect();
 }
@@ -149,6 +157,9 @@ bool WindowView::sync() {
             announceChange(*this, *window_.Controls[i]);
             isDifferent = true;
         }
+    }
+    if (frame_ != nullptr) {
+        frame_->sync(scale_ / devicePixelRatioF());
     }
     return isDifferent;
 }
@@ -173,19 +184,23 @@ void WindowView::syncTimers() {
 void WindowView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
+    if (frame_ != nullptr) {
+        painter.fillRect(event->rect(), QColor(0x1c, 0x26, 0x35));  // units that are not whole
+    }
+    painter.translate(0, menuHeight());
     painter.scale(1 / ratio, 1 / ratio);
     const PaintTools tools{desktop_.skin(), scale_};
     for (const QRect& part : event->region()) {
-        const QRect device =
-            QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
-                .toAlignedRect();
+        const QRect device = QRectF(part.x() * ratio, (part.y() - menuHeight()) * ratio,
+                                    part.width() * ratio, part.height() * ratio)
+                                 .toAlignedRect();
         paintWindow(painter, window_, device, tools);
     }
     desktop_.painted(window_);
 }
 
 QPointF WindowView::unitsOf(const QPointF& logical) const {
-    return logical * (devicePixelRatioF() / scale_);
+    return (logical - QPointF(0, menuHeight())) * (devicePixelRatioF() / scale_);
 }
 
 void WindowView::deliverTo(Control& control, Event event, MouseButton button,
@@ -368,7 +383,11 @@ void WindowView::timerEvent(QTimerEvent* event) {
 void WindowView::tick(Timer& timer, SystemTimer& system) {
     const QPointer<WindowView> self(this);
     const bool isChanged = desktop_.runTick([&timer] { deliver(timer, Event::Timer); });
-    if (self.isNull() || timer.Interval >= kFrameMilliseconds) {
+    if (self.isNull()) {
+        return;
+    }
+    if (timer.Interval >= kFrameMilliseconds) {
+        syncTimers();  // the tick may have switched its own timer off or on again
         return;
     }
     system.quietTicks = isChanged ? 0 : system.quietTicks + 1;
@@ -377,8 +396,20 @@ void WindowView::tick(Timer& timer, SystemTimer& system) {
     }
 }
 
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (frame_ != nullptr) {
+        frame_->resized(scale_ / devicePixelRatioF());
+    }
+}
+
 void WindowView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && frame_ != nullptr && window_.Visible &&
+        window_.Minimized != isMinimized()) {
+        desktop_.run([this] { deliverMinimized(window_, isMinimized()); });
+        return;
+    }
     desktop_.wakeTimers();
 }
 

@@ -6,9 +6,11 @@
 #include <QPointer>
 #include <QWidget>
 #include <map>
+#include <memory>
 #include <vector>
 
 #include "platform/control.h"
+#include "platform/qt/frame_parts.h"
 #include "platform/qt/skin.h"
 
 namespace ombrelia {
@@ -61,6 +63,7 @@ class WindowView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     // A timer of every frame rests after some ticks that changed nothing, until the next event.
@@ -88,12 +91,14 @@ class WindowView : public QWidget {
     bool moveWindow(QMouseEvent* event);
     void deliverDrag(Event event, const QPointF& units);
     QRect logicalRect(const QRect& device) const;
+    int menuHeight() const { return frame_ == nullptr ? 0 : frame_->menuHeight(); }
 
     Window& window_;
     QtDesktop& desktop_;
     double scale_;
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
+    std::unique_ptr<FrameParts> frame_;  // of a window that is sized by hand
 
     Control* captured_ = nullptr;  // got the press of the held button
     Control* dragged_ = nullptr;   // is being dragged by the held button
