@@ -20,6 +20,7 @@ void designFood() {
         picture.Visible = false;
     }
     designPart(Form2.Label2, "Label2", Form2.Picture1, {0, 0, kCell, kCell});
+    Form2.Label2.AccessibleName = "Food";
 }
 
 void designForm2() {
@@ -28,6 +29,7 @@ void designForm2() {
     Form2.StandsAlone = true;
     Form2.Ground = &Form2.Picture1;
     designSurface(Form2.Picture1, "Picture1", Form2, {0, 0, kWidth, kHeight});
+    Form2.Picture1.AccessibleName = "Board";
     designFood();
     designLabel(Form2.Label1, "Label1", Form2.Picture1, {30, 511, 480, 18},
                 "More Levels in Ver 2.0!",

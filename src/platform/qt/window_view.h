@@ -24,6 +24,9 @@ class WindowView : public QWidget {
     const Window& window() const { return window_; }
     QtDesktop& desktop() { return desktop_; }
 
+    // Device pixels to a unit of this window.
+    double scale() const { return scale_; }
+
     // A press and release in the middle of a control, without the mouse.
     void pressControl(Control& control);
 
@@ -92,7 +95,7 @@ class WindowView : public QWidget {
 
     Window& window_;
     QtDesktop& desktop_;
-    double scale_;  // device pixels to a unit of this window
+    double scale_;
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
     std::unique_ptr<FrameParts> frame_;  // of a window that is sized by hand
