@@ -4,7 +4,7 @@ namespace ombrelia {
 
 constexpr MazeOrders<4, kSquareOrderCount> kSquareOrders = makeMazeOrders<4, kSquareOrderCount>();
 constexpr MazeOrders<6, kHexOrderCount> kHexOrders = makeMazeOrders<6, kHexOrderCount>();
-constexpr MazePlaces<4, kSquareOrderCount> kSquarePlaces = makeMazePlaces(kSquareOrders);
-constexpr MazePlaces<6, kHexOrderCount> kHexPlaces = makeMazePlaces(kHexOrders);
+constexpr MazeFirsts<4, kSquareOrderCount> kSquareFirsts = makeMazeFirsts(kSquareOrders);
+constexpr MazeFirsts<6, kHexOrderCount> kHexFirsts = makeMazeFirsts(kHexOrders);
 
 }  // namespace ombrelia

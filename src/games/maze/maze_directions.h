@@ -58,26 +58,30 @@ constexpr MazeOrders<kDirections, kOrders> makeMazeOrders() {
     return orders;
 }
 
-// For each order and each set of directions (a bit for each number) the places at which they are
-// tried, a bit for each place: so the first way open is found without a jump for each try.
+// For each order and each set of directions (a bit for each number) the direction that is tried
+// first, so that a carver finds its way without a jump for each try; 0 for the empty set.
 template <std::size_t kDirections, std::size_t kOrders>
-using MazePlaces = std::array<std::array<std::uint8_t, std::size_t{1} << kDirections>, kOrders>;
+using MazeFirsts = std::array<std::array<std::uint8_t, std::size_t{1} << kDirections>, kOrders>;
 
 template <std::size_t kDirections, std::size_t kOrders>
-constexpr MazePlaces<kDirections, kOrders> makeMazePlaces(
+constexpr MazeFirsts<kDirections, kOrders> makeMazeFirsts(
     const MazeOrders<kDirections, kOrders>& orders) {
-    MazePlaces<kDirections, kOrders> places{};
+    MazeFirsts<kDirections, kOrders> firsts{};
     for (std::size_t n = 0; n < kOrders; ++n) {
-        for (std::size_t place = 0; place < kDirections; ++place) {
+        // From the last place to the first: a direction is first in every set of those behind it.
+        std::size_t behind = 0;
+        for (std::size_t place = kDirections; place-- > 0;) {
             const std::size_t bit = std::size_t{1} << orders[n][place];
-            places[n][bit] = static_cast<std::uint8_t>(1U << place);
-        }
-        for (std::size_t set = 1; set < places[n].size(); ++set) {
-            const std::size_t rest = set & (set - 1);
-            places[n][set] = static_cast<std::uint8_t>(places[n][rest] | places[n][set ^ rest]);
+            for (std::size_t set = behind;; set = (set - 1) & behind) {
+                firsts[n][set | bit] = orders[n][place];
+                if (set == 0) {
+                    break;
+                }
+            }
+            behind |= bit;
         }
     }
-    return places;
+    return firsts;
 }
 
 inline constexpr std::size_t kSquareOrderCount = 24;
@@ -85,7 +89,7 @@ inline constexpr std::size_t kHexOrderCount = 720;
 
 extern const MazeOrders<4, kSquareOrderCount> kSquareOrders;
 extern const MazeOrders<6, kHexOrderCount> kHexOrders;
-extern const MazePlaces<4, kSquareOrderCount> kSquarePlaces;
-extern const MazePlaces<6, kHexOrderCount> kHexPlaces;
+extern const MazeFirsts<4, kSquareOrderCount> kSquareFirsts;
+extern const MazeFirsts<6, kHexOrderCount> kHexFirsts;
 
 }  // namespace ombrelia

@@ -1,7 +1,6 @@
 #include "games/maze/maze_generator.h"
 
 #include <algorithm>
-#include <bit>
 #include <vector>
 
 #include "games/maze/maze_directions.h"
@@ -65,9 +64,8 @@ template <int kModulus, std::size_t kDirections, std::size_t kOrders>
 class Carver {
   public:
     Carver(const SeedDigits& digits, const std::array<MazeDelta, kDirections>& deltas,
-           const MazeOrders<kDirections, kOrders>& orders,
-           const MazePlaces<kDirections, kOrders>& places)
-        : random(digits), orders_(orders), places_(places) {
+           const MazeFirsts<kDirections, kOrders>& firsts)
+        : random(digits), firsts_(firsts) {
         for (std::size_t d = 0; d < kDirections; ++d) {
             steps_[d] = MazePage.step(deltas[d].x, deltas[d].y);
         }
@@ -84,7 +82,7 @@ class Carver {
         cells[room] = kMazeOpen;
         while (true) {
             int order = drawOrder(draws);
-            unsigned ways = waysFrom(cells, room, order);
+            std::size_t ways = waysFrom(cells, room);
             while (ways == 0) {
                 if (top == 0) {
                     return;
@@ -92,14 +90,15 @@ class Carver {
                 const Branch& back = branches[--top];
                 room = back.room;
                 order = back.order;
-                ways = back.ways & waysFrom(cells, room, order);
+                ways = back.ways & waysFrom(cells, room);
             }
             // A room is come back to only for a way that is open now: later none opens.
-            const unsigned others = ways & (ways - 1);
+            const std::size_t taken = firsts_[static_cast<std::size_t>(order)][ways];
+            const std::size_t others = ways & ~(std::size_t{1} << taken);
             branches[top] = {room, static_cast<std::int16_t>(order),
                              static_cast<std::uint8_t>(others)};
             top += others != 0 ? 1 : 0;
-            const int step = stepOf(order, static_cast<std::size_t>(std::countr_zero(ways)));
+            const int step = steps_[taken];
             cells[room + step] = kMazeOpen;
             room += 2 * step;
             cells[room] = kMazeOpen;
@@ -109,10 +108,6 @@ class Carver {
     MazeRandom<kModulus> random;
 
   private:
-    int stepOf(int order, std::size_t place) const {
-        return steps_[orders_[static_cast<std::size_t>(order)][place]];
-    }
-
     // Rejection, not reduction: numbers behind the last order are drawn again.
     static int drawOrder(MazeRandom<kModulus>& draws) {
         int order = draws();
@@ -122,13 +117,13 @@ class Carver {
         return order;
     }
 
-    // The places of an order at which a direction leads to an unvisited room, a bit for each.
-    unsigned waysFrom(const std::uint8_t* cells, int room, int order) const {
-        std::size_t free = 0;
+    // Directions that lead to an unvisited room, a bit for each.
+    std::size_t waysFrom(const std::uint8_t* cells, int room) const {
+        std::size_t ways = 0;
         for (std::size_t d = 0; d < kDirections; ++d) {
-            free |= static_cast<std::size_t>(cells[room + 2 * steps_[d]] == kMazeWall) << d;
+            ways |= static_cast<std::size_t>(cells[room + 2 * steps_[d]] == kMazeWall) << d;
         }
-        return places_[static_cast<std::size_t>(order)][free];
+        return ways;
     }
 
     // A room with more ways than the one taken, and the order that it was left with.
@@ -138,16 +133,14 @@ class Carver {
         std::uint8_t ways;
     };
 
-    const MazeOrders<kDirections, kOrders>& orders_;
-    const MazePlaces<kDirections, kOrders>& places_;
+    const MazeFirsts<kDirections, kOrders>& firsts_;
     std::array<int, kDirections> steps_{};
 };
 
 void generateSquare(const SeedDigits& digits) {
     constexpr int kModulus = 29;
     MazePage.fill(kMazeWall);
-    Carver<kModulus, 4, kSquareOrderCount> carver(digits, kSquareDeltas, kSquareOrders,
-                                                  kSquarePlaces);
+    Carver<kModulus, 4, kSquareOrderCount> carver(digits, kSquareDeltas, kSquareFirsts);
     const auto drawPlace = [&carver](int count) {
         int acc = 0;
         for (int i = 0; i < 3; ++i) {
@@ -164,7 +157,7 @@ void generateSquare(const SeedDigits& digits) {
 
 void generateHexagonal(const SeedDigits& digits) {
     fillTemplate();
-    Carver<727, 6, kHexOrderCount> carver(digits, kHexDeltas, kHexOrders, kHexPlaces);
+    Carver<727, 6, kHexOrderCount> carver(digits, kHexDeltas, kHexFirsts);
     const int k = carver.random() % NumColumns;
     const int v = carver.random();
     const bool isOdd = k % 2 == 1;

@@ -20,37 +20,45 @@ class Solver {
     explicit Solver(const std::array<MazeDelta, kDirections>& deltas) : cells_(MazePage.data()) {
         for (std::size_t d = 0; d < kDirections; ++d) {
             steps_[d] = MazePage.step(deltas[d].x, deltas[d].y);
+            for (std::size_t other = 0; other < kDirections; ++other) {
+                const bool isOpposite =
+                    deltas[other].x == -deltas[d].x && deltas[other].y == -deltas[d].y;
+                backs_[d] |= static_cast<unsigned>(isOpposite) << other;
+            }
         }
     }
 
-    // From the first room to the wall cell of the exit, depth first.
+    // From the first room to the wall cell of the exit, depth first. Nothing is marked on the way:
+    // in a maze without rings it is enough not to turn round.
     void findSolution(int start, int exit) {
-        room_ = start;
-        top_ = -1;
-        cells_[room_] = kMazeTrack;
+        std::vector<Branch> kept(static_cast<std::size_t>(NumRooms) + 1);
+        Branch* branch = kept.data();
+        MazeStep* step = MazeStack.data();
+        int room = start;
+        unsigned back = 0;
         while (true) {
-            unsigned ways = openWays();
-            while (ways == 0) {
-                const Branch& back = branches_[--branchCount_];
-                ways = back.ways;
-                while (top_ > back.top) {
-                    retreat();
-                }
+            unsigned ways = openWays(room) & ~back;
+            if (ways == 0) {
+                --branch;
+                room = branch->room;
+                step = MazeStack.data() + branch->steps;
+                ways = branch->ways;
             }
             const auto d = static_cast<std::size_t>(std::countr_zero(ways));
             const unsigned others = ways & (ways - 1);
-            branches_[branchCount_] = {top_, others};
-            branchCount_ += others != 0 ? 1 : 0;
-            const int passage = room_ + steps_[d];
-            cells_[passage] = kMazeTrack;
-            if (passage == exit) {
-                return;
+            *branch = {room, static_cast<int>(step - MazeStack.data()), others};
+            branch += others != 0 ? 1 : 0;
+            step->DirectionIndex = static_cast<std::uint8_t>(d);
+            if (room + steps_[d] == exit) {
+                break;
             }
-            ++top_;
-            MazeStack[static_cast<std::size_t>(top_)].DirectionIndex = static_cast<std::uint8_t>(d);
-            room_ = passage + steps_[d];
-            cells_[room_] = kMazeTrack;
+            ++step;
+            room += 2 * steps_[d];
+            back = backs_[d];
         }
+        room_ = room;
+        top_ = static_cast<int>(step - MazeStack.data()) - 1;
+        mark(exit);
     }
 
     // Of the solution just found.
@@ -67,22 +75,26 @@ class Solver {
     }
 
   private:
-    // Directions in which the room has an untried passage, a bit for each.
-    unsigned openWays() const {
+    // Directions in which the room has a passage, a bit for each.
+    unsigned openWays(int room) const {
         unsigned ways = 0;
         for (std::size_t d = 0; d < kDirections; ++d) {
-            ways |= static_cast<unsigned>(cells_[room_ + steps_[d]] == kMazeOpen) << d;
+            ways |= static_cast<unsigned>(cells_[room + steps_[d]] == kMazeOpen) << d;
         }
         return ways;
     }
 
-    // Back to the room before.
-    void retreat() {
-        const int step = steps_[MazeStack[static_cast<std::size_t>(top_)].DirectionIndex];
-        cells_[room_] = kMazeOpen;
-        cells_[room_ - step] = kMazeOpen;
-        room_ -= 2 * step;
-        --top_;
+    // Marks the solution from its last room back to the first.
+    void mark(int exit) {
+        cells_[exit] = kMazeTrack;
+        int room = room_;
+        cells_[room] = kMazeTrack;
+        for (int place = top_; place >= 0; --place) {
+            const int step = steps_[MazeStack[static_cast<std::size_t>(place)].DirectionIndex];
+            cells_[room - step] = kMazeTrack;
+            room -= 2 * step;
+            cells_[room] = kMazeTrack;
+        }
     }
 
     int adjacencyOf(int room) const {
@@ -95,15 +107,15 @@ class Solver {
         return count;
     }
 
-    // A room with untried ways, by its place on the way from the start.
+    // A room with untried ways, and the steps of the way to it.
     struct Branch {
-        int top;
+        int room;
+        int steps;
         unsigned ways;
     };
 
     std::uint8_t* cells_;
-    std::vector<Branch> branches_ = std::vector<Branch>(static_cast<std::size_t>(NumRooms) + 1);
-    std::size_t branchCount_ = 0;
+    std::array<unsigned, kDirections> backs_{};  // the bit of the opposite direction
     std::array<int, kDirections> steps_{};
     int room_ = 0;
     int top_ = -1;  // of the stack: rooms before room_ on the solution, less one
