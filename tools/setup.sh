@@ -1,5 +1,6 @@
 # Shared by ./run and ./test: packages and the build.
-BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core)
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev fonts-dejavu-core
+    libcanberra-dev)
 SCREEN_PACKAGES=(xvfb openbox xdotool x11-utils imagemagick)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev netpbm clang-format python3 git)
 

@@ -72,6 +72,16 @@ class RandomSource {
     virtual void draw(std::span<float> draws) = 0;
 };
 
+// Short sounds of files that stand beside the program.
+class Sound {
+  public:
+    virtual ~Sound() = default;
+    // Path of a file beside the program.
+    virtual std::string programFile(const std::string& name) = 0;
+    // Starts to play the file and returns at once; silence if it cannot be played.
+    virtual void play(const std::string& path) = 0;
+};
+
 // Windows on the screen, the event loop, and what hangs on them.
 class Desktop {
   public:
@@ -112,6 +122,7 @@ struct Services {
     RandomSource* random = nullptr;
     Desktop* desktop = nullptr;
     FailureReport* failures = nullptr;
+    Sound* sound = nullptr;
 };
 
 Services& services();

@@ -30,7 +30,8 @@ class HeadlessPlatform : public Dialogs,
                          public Clock,
                          public RandomSource,
                          public Desktop,
-                         public FailureReport {
+                         public FailureReport,
+                         public Sound {
   public:
     // Puts this platform's services in force.
     void install();
@@ -107,6 +108,8 @@ class HeadlessPlatform : public Dialogs,
     void openWebPage(const std::string& address) override;
     void end() override;
     void failed(const std::string& sentence) override;
+    std::string programFile(const std::string& name) override;
+    void play(const std::string& path) override;
 
   private:
     void log(const std::string& call);

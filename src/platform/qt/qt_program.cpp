@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "platform/generator_random.h"
+#include "platform/qt/canberra_sound.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
 
@@ -46,7 +47,8 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     QtClock clock;
     GeneratorRandom random;
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
-    services() = {&dialogs, &settings, &files, &clock, &random, &desktop, &failures};
+    CanberraSound sound;
+    services() = {&dialogs, &settings, &files, &clock, &random, &desktop, &failures, &sound};
     desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);
