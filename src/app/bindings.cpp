@@ -9,6 +9,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "panels/hints.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
 
@@ -50,6 +51,7 @@ const Binding kBindings[] = {
     {&Form1, "", Event::Click, Ground_Click},
     {&Form1, "Timer1", Event::Timer, Form1_Timer},
     {&Form1, "Label11", Event::MouseDown, Title_MouseDown},
+    {&Form1, "Label11", Event::MouseMove, Title_MouseMove},
     {&Form1, "Label32", Event::Click, Label32_Click},
     {&Form1, "Label32", Event::DragOver, Label32_DragOver},
     {&Form1, "Label32", Event::DragDrop, Label32_DragDrop},
@@ -63,13 +65,15 @@ const Binding kBindings[] = {
     {&Form1, "TwoFrame", Event::MouseMove, Ground_MouseMove},
     {&Form1, "Label1", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "Label4", Event::MouseMove, QuietPart_MouseMove},
-    {&Form1, "ZoomView", Event::MouseMove, QuietPart_MouseMove},
+    {&Form1, "ZoomView", Event::MouseMove, ZoomView_MouseMove},
     {&Form1, "MapView", Event::MouseDown, MapView_MouseDown},
     {&Form1, "MapView", Event::MouseMove, MapView_MouseMove},
     {&Form1, "MapView", Event::MouseUp, MapView_MouseUp},
     {&Form1, "Picker", Event::MouseDown, Picker_MouseDown},
     {&Form1, "Picker", Event::MouseMove, Picker_MouseMove},
     {&Form1, "Picker", Event::MouseUp, Picker_MouseUp},
+    {&Form1, "PickedColor", Event::MouseMove, PickedColor_MouseMove},
+    {&Form1, "Picture3", Event::MouseMove, PickedColor_MouseMove},
     {&Form1, "VertScroller", Event::MouseDown, VertScroller_MouseDown},
     {&Form1, "VertScroller", Event::MouseMove, VertScroller_MouseMove},
     {&Form1, "Scroller", Event::MouseDown, Scroller_MouseDown},
@@ -79,13 +83,21 @@ const Binding kBindings[] = {
     {&Form1, "ScrollUp", Event::MouseUp, Arrow_MouseUp},
     {&Form1, "ScrollDown", Event::MouseDown, Arrow_MouseDown},
     {&Form1, "ScrollDown", Event::MouseUp, Arrow_MouseUp},
+    {&Form1, "ScrollUp", Event::MouseMove, Arrow_MouseMove},
+    {&Form1, "ScrollDown", Event::MouseMove, Arrow_MouseMove},
+    {&Form1, "Filler", Event::MouseMove, PlainPart_MouseMove},
     {&Form1, "OptFrame", Event::MouseDown, OptFrame_MouseDown},
     {&Form1, "OptFrame", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "OptFrame", Event::MouseUp, OptFrame_MouseUp},
     {&Form1, "Picture1", Event::MouseDown, OptFrame_MouseDown},
     {&Form1, "Picture1", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
+    {&Form1, "Rng1", Event::MouseMove, Rng1_MouseMove},
     {&Form1, "Combo1", Event::Click, Combo1_Click},
+    {&Form1, "Combo1", Event::MouseMove, PlainPart_MouseMove},
+
+    {&HelpFrm, "HelpLbl", Event::MouseMove, HelpLbl_MouseMove},
+    {&HelpFrm, "HelpLbl", Event::DblClick, HelpLbl_DblClick},
 };
 
 void bind(const Binding& row) {

@@ -74,6 +74,7 @@ std::vector<ValueRow> coreValues() {
         valueRow("ThumbGrab", ThumbGrab),
         valueRow("SliderDragState", SliderDragState),
         valueRow("SuppressComboClick", SuppressComboClick),
+        valueRow("CurrentCursorId", CurrentCursorId),
         valueRow("TitleActiveColor", TitleActiveColor),
         valueRow("TitleInactiveColor", TitleInactiveColor),
         valueRow("StopFlag", StopFlag),

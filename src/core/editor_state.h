@@ -49,6 +49,9 @@ extern std::int16_t ThumbGrab;           // units, pointer in a thumb drag; slid
 extern std::int16_t SliderDragState;     // 2 strip thumb held, 1 range marker held; sliders
 extern std::int16_t SuppressComboClick;  // 1: the next change of Combo1 is the program's own
 
+// Seam for tool pointers; nothing writes it.
+extern std::int16_t CurrentCursorId;
+
 // Colours of the title text.
 extern Color TitleActiveColor;    // Form1's load
 extern Color TitleInactiveColor;  // Form1's load

@@ -57,9 +57,35 @@ struct DialogAnswer {
     const char* dialog;
     void (*queue)(Session& session, const std::string& answer);
 };
-constexpr DialogAnswer kDialogAnswers[] = {{"save", answerSave}, {"message", answerMessage}};
+void answerInput(Session& session, const std::string& text) {
+    session.platform.InputAnswers.push_back(text);
+}
+
+constexpr DialogAnswer kDialogAnswers[] = {
+    {"save", answerSave}, {"message", answerMessage}, {"input", answerInput}};
+
+// "R G B" or "cancel".
+void answerColor(Session& session, const Fields& fields) {
+    std::optional<Color> answer;
+    if (fields.size() == 4) {
+        const auto part = [&](std::size_t n) {
+            return static_cast<unsigned>(wholeNumber(fields[n], 0, 255));
+        };
+        answer = rgb(part(1), part(2), part(3));
+    } else if (fields.size() != 2 || fields[1] != "cancel") {
+        throw LineError{"a colour is answered by three numbers or by cancel"};
+    }
+    session.platform.ColorAnswers.push_back(answer);
+}
 
 void queueAnswer(Session& session, const Fields& fields) {
+    if (fields[0] == "color") {
+        answerColor(session, fields);
+        return;
+    }
+    if (fields.size() != 2) {
+        throw LineError{"a dialog other than color has one answer"};
+    }
     const auto* row = std::find_if(std::begin(kDialogAnswers), std::end(kDialogAnswers),
                                    [&](const DialogAnswer& r) { return fields[0] == r.dialog; });
     if (row == std::end(kDialogAnswers)) {
@@ -68,13 +94,21 @@ void queueAnswer(Session& session, const Fields& fields) {
     row->queue(session, fields[1]);
 }
 
+void tellFile(Session& session, const Fields& fields) {
+    if (fields.size() == 2 && fields[1] != "absent") {
+        throw LineError{"a file is there, or absent"};
+    }
+    session.platform.Files[fields[0]] = fields.size() == 1;
+}
+
 constexpr Command kCommands[] = {
     {"random", 1, kAnyNumber, Acts::Anywhere, queueRandom},
     {"random-lcg", 1, 1, Acts::Anywhere, seedGenerator},
     {"clock", 1, 1, Acts::Anywhere, setClock},
     {"clock-step", 1, 1, Acts::Anywhere, setClockStep},
     {"setting", 3, 3, Acts::Anywhere, setSetting},
-    {"answer", 2, 2, Acts::Anywhere, queueAnswer},
+    {"answer", 2, 4, Acts::Anywhere, queueAnswer},
+    {"file", 1, 2, Acts::Anywhere, tellFile},
 };
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "panels/cursors_sounds.h"
+#include "panels/hints.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"
 #include "platform/services.h"
@@ -33,6 +35,11 @@ int frameOf(const EventArgs& args) {
     return args.Source == &Form1.Picture1 ? -1 : args.Index;
 }
 
+bool isPointerInEditor() {
+    return Form1.PointerX >= 0 && Form1.PointerX < Form1.Width && Form1.PointerY >= 0 &&
+           Form1.PointerY < Form1.Height;
+}
+
 }  // namespace
 
 void Form1_Timer(EventArgs& /*args*/) {
@@ -41,9 +48,13 @@ void Form1_Timer(EventArgs& /*args*/) {
     showProgress();
     colorTitle();
     finishStop();
+    if (!isPointerInEditor()) {
+        ResetCursorHook(kCursorOutside);
+    }
 }
 
 void Ground_MouseMove(EventArgs& /*args*/) {
+    ResetCursorHook(kPlainCursor);
     MouseState = kGestureNone;
     clearHover();
 }
@@ -54,6 +65,11 @@ void Ground_Click(EventArgs& /*args*/) {
 }
 
 void QuietPart_MouseMove(EventArgs& /*args*/) {
+    clearHover();
+}
+
+void ZoomView_MouseMove(EventArgs& /*args*/) {
+    ShowHint(kZoomHint);
     clearHover();
 }
 
@@ -81,6 +97,8 @@ void VertScroller_MouseDown(EventArgs& args) {
 }
 
 void VertScroller_MouseMove(EventArgs& args) {
+    showSliderHint(args.Index);
+    ResetCursorHook(kPlainCursor);
     if (args.Button == MouseButton::Left) {
         dragThumb(args.Index, args.X);
     }
@@ -111,6 +129,10 @@ void OptFrame_MouseDown(EventArgs& args) {
 }
 
 void OptFrame_MouseMove(EventArgs& args) {
+    if (frameOf(args) >= 0) {
+        ShowHint(kOptionFrameHint);
+    }
+    wantCursor(kPlainCursor, *args.Source);
     clearHover();
     dragFrames(frameOf(args), args.Y);
 }

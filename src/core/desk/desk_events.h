@@ -12,6 +12,7 @@ void Form1_Timer(EventArgs& args);
 void Ground_MouseMove(EventArgs& args);
 void Ground_Click(EventArgs& args);
 void QuietPart_MouseMove(EventArgs& args);
+void ZoomView_MouseMove(EventArgs& args);
 void Label32_Click(EventArgs& args);
 void Label32_DragOver(EventArgs& args);
 void Label32_DragDrop(EventArgs& args);

@@ -13,6 +13,7 @@
 #include "core/windows/form1.h"
 #include "core/windows/layout.h"
 #include "core/windows/small_windows.h"
+#include "panels/cursors_sounds.h"
 #include "platform/dispatch.h"
 #include "platform/messages.h"
 #include "platform/services.h"
@@ -257,6 +258,7 @@ void StartNewMap() {
 
 void ExitEditor() {
     SavePreferences();
+    ResetCursorHook(kCursorOutside);
     if (NewMapPending == 1) {
         NewMapPending = 0;
         return;
