@@ -9,6 +9,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "panels/color_editor.h"
 #include "panels/hints.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
@@ -92,8 +93,13 @@ const Binding kBindings[] = {
     {&Form1, "Picture1", Event::MouseDown, OptFrame_MouseDown},
     {&Form1, "Picture1", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
+    {&Form1, "Range", Event::MouseDown, Range_MouseDown},
+    {&Form1, "Range", Event::MouseMove, Range_MouseMove},
+    {&Form1, "Range", Event::MouseUp, Range_MouseUp},
     {&Form1, "Rng1", Event::MouseMove, Rng1_MouseMove},
+    {&Form1, "Rng1", Event::Click, Rng1_Click},
     {&Form1, "Combo1", Event::Click, Combo1_Click},
+    {&Form1, "Combo1", Event::KeyDown, Combo1_KeyDown},
     {&Form1, "Combo1", Event::MouseMove, PlainPart_MouseMove},
 
     {&HelpFrm, "HelpLbl", Event::MouseMove, HelpLbl_MouseMove},

@@ -73,6 +73,7 @@ std::vector<ValueRow> coreValues() {
         valueRow("PanelGrabY", PanelGrabY),
         valueRow("ThumbGrab", ThumbGrab),
         valueRow("SliderDragState", SliderDragState),
+        valueRow("RangeGrabX", RangeGrabX),
         valueRow("SuppressComboClick", SuppressComboClick),
         valueRow("CurrentCursorId", CurrentCursorId),
         valueRow("TitleActiveColor", TitleActiveColor),

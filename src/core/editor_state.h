@@ -47,6 +47,7 @@ extern std::int16_t StrokeCount;  // next free subscript, 0..600; gestures
 extern std::int16_t PanelGrabY;          // strip units, pointer in a frame drag; option frames
 extern std::int16_t ThumbGrab;           // units, pointer in a thumb drag; sliders
 extern std::int16_t SliderDragState;     // 2 strip thumb held, 1 range marker held; sliders
+extern std::int16_t RangeGrabX;          // units, pointer in a drag of a range marker; colour page
 extern std::int16_t SuppressComboClick;  // 1: the next change of Combo1 is the program's own
 
 // Seam for tool pointers; nothing writes it.

@@ -46,6 +46,7 @@ std::int16_t StrokeCount = 0;
 std::int16_t PanelGrabY = 0;
 std::int16_t ThumbGrab = 0;
 std::int16_t SliderDragState = 0;
+std::int16_t RangeGrabX = 0;
 std::int16_t SuppressComboClick = 0;
 std::int16_t CurrentCursorId = 0;
 Color TitleActiveColor = 0;

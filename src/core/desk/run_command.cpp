@@ -12,6 +12,7 @@
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "files/bitmap_export.h"
+#include "panels/color_editor.h"
 #include "panels/option_frames.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
@@ -84,6 +85,8 @@ constexpr Command kCommands[] = {
     {button::kStop, requestStop, false},
     {button::kRedrawColors, redrawWithColors, true},
     {button::kMinimize, minimizeEditor, false},
+    {button::kAddColor, AddColorSet, false},
+    {button::kDeleteColor, DeleteColorSet, false},
     {button::kShowHelpBox, showOrHideHint, false},
 };
 

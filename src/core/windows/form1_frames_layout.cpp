@@ -162,7 +162,9 @@ void designColorPage(Form1Window& form) {
     form.Combo1.ListIndex = -1;
     designSurface(form.PrefPicker, "PrefPicker", frame, {12, 43, 256, 9});
     for (int i = 1; i <= 5; ++i) {
-        designImage(form.Range.make(i), "Range", frame, 12, 52, Picture::Range);
+        Image& marker = form.Range.make(i);
+        designImage(marker, "Range", frame, 12, 52, Picture::Range);
+        marker.InWholeUnits = true;  // a boundary at half a height would leave a height without row
     }
     for (int row = 0; row < 6; ++row) {
         const double left = 12 + 43.0 * row;

@@ -74,8 +74,10 @@ class WindowView : public QWidget {
 
     Shown lookOf(const Control& control) const;
     QPointF unitsOf(const QPointF& logical) const;
+    QPointF wholeUnits(const QPointF& units) const;
     void deliverTo(Control& control, Event event, MouseButton button, const QPointF& units);
     void press(QMouseEvent* event);
+    void openList(ListBox& list);
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
     void deliverDrag(Event event, const QPointF& units);

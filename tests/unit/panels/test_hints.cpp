@@ -64,6 +64,8 @@ TEST_F(Hints, the_other_parts_tell_theirs) {
     EXPECT_EQ(moveOver(Form1.Picker),
               "This is the color picker. Click on a color to select it, for use with the Pencil "
               "and Line tools.");
+    EXPECT_EQ(moveOver(Form1.Range(2)),
+              "Click && Drag this slider to set the length && size of the gradient.");
     EXPECT_EQ(moveOver(Form1.Rng1(7)), "Click here to change the current color for this box.");
     EXPECT_EQ(moveOver(Form1.ZoomView),
               "This shows a zoomed-up view of the map under the cursor, for precise work.");
