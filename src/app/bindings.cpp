@@ -8,8 +8,10 @@
 #include "core/desk/startup.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
 #include "panels/color_editor.h"
+#include "panels/help_box.h"
 #include "panels/hints.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
@@ -104,6 +106,33 @@ const Binding kBindings[] = {
 
     {&HelpFrm, "HelpLbl", Event::MouseMove, HelpLbl_MouseMove},
     {&HelpFrm, "HelpLbl", Event::DblClick, HelpLbl_DblClick},
+
+    {&HelpBox, "", Event::Load, HelpBox_Load},
+    {&HelpBox, "", Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, "Topic", Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, "Picture1", Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, "Timer1", Event::Timer, HelpBox_Timer},
+    {&HelpBox, "Label14", Event::MouseDown, HelpBox_TitleDown},
+    {&HelpBox, "Label13", Event::Click, HelpBox_WebClick},
+    {&HelpBox, "NTool", Event::MouseDown, HelpBox_ButtonDown},
+    {&HelpBox, "NTool", Event::MouseMove, HelpBox_ButtonMove},
+    {&HelpBox, "NTool", Event::MouseUp, HelpBox_ButtonUp},
+    {&HelpBox, "NTool", Event::Click, HelpBox_ButtonClick},
+    {&HelpBox, "LTool", Event::MouseDown, HelpBox_ButtonDown},
+    {&HelpBox, "LTool", Event::MouseMove, HelpBox_ButtonMove},
+    {&HelpBox, "LTool", Event::MouseUp, HelpBox_ButtonUp},
+    {&HelpBox, "LTool", Event::Click, HelpBox_ButtonClick},
+    {&HelpBox, "LinkLbl", Event::Click, HelpBox_LinkClick},
+    {&HelpBox, "ContLbl", Event::Click, HelpBox_ContentsClick},
+    {&HelpBox, "ToolName", Event::Click, HelpBox_ToolClick},
+    {&HelpBox, "ToolPic", Event::Click, HelpBox_ToolClick},
+    {&HelpBox, "Scroller", Event::MouseDown, HelpBox_ScrollerDown},
+    {&HelpBox, "Scroller", Event::MouseMove, HelpBox_ScrollerMove},
+    {&HelpBox, "Scroller", Event::MouseUp, HelpBox_ScrollerUp},
+    {&HelpBox, "ScrollUp", Event::MouseDown, HelpBox_ArrowDown},
+    {&HelpBox, "ScrollUp", Event::MouseUp, HelpBox_ArrowUp},
+    {&HelpBox, "ScrollDown", Event::MouseDown, HelpBox_ArrowDown},
+    {&HelpBox, "ScrollDown", Event::MouseUp, HelpBox_ArrowUp},
 };
 
 void bind(const Binding& row) {
@@ -122,7 +151,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1, &HelpFrm};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,
+                                                 &Form1,     &HelpFrm,    &HelpBox};
     return windows;
 }
 

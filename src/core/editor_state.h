@@ -53,6 +53,14 @@ extern std::int16_t SuppressComboClick;  // 1: the next change of Combo1 is the 
 // Seam for tool pointers; nothing writes it.
 extern std::int16_t CurrentCursorId;
 
+// The help window.
+extern std::int16_t CurrentTopic;                           // page showing; GotoTopic
+extern CheckedArray<std::int16_t, 0, 10> HelpGroupCurrent;  // its button on in each group
+extern std::int16_t HelpHoverTool;                          // its button that last had the pointer
+extern std::int16_t HelpMouseState;       // kGestureScrollUp or Down while its arrow is held
+extern std::int16_t HelpSliderDragState;  // 2 while its thumb is held
+extern std::int16_t HelpThumbGrab;        // units, pointer in a drag of its thumb
+
 // Colours of the title text.
 extern Color TitleActiveColor;    // Form1's load
 extern Color TitleInactiveColor;  // Form1's load

@@ -4,6 +4,7 @@
 #include "core/buttons.h"
 #include "core/desk/button_events.h"
 #include "core/editor_state.h"
+#include "core/maker_page.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"

@@ -5,9 +5,6 @@
 
 namespace ombrelia {
 
-// Address of the maker's page.
-inline constexpr const char* kMakerPage = "https://quillbyte.example/";
-
 void Form1_Timer(EventArgs& args);
 void Ground_MouseMove(EventArgs& args);
 void Ground_Click(EventArgs& args);

@@ -10,6 +10,7 @@
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
 #include "files/bitmap_export.h"
 #include "panels/color_editor.h"
@@ -54,6 +55,10 @@ void redrawWithColors() {
     UpdateMapView(1);
 }
 
+void showHelp() {
+    showWindow(HelpBox);
+}
+
 void minimizeEditor() {
     minimizeWindow(Form1);
 }
@@ -83,6 +88,7 @@ constexpr Command kCommands[] = {
     {button::kGenerate, GenerateCommand, true},
     {button::kAbout, showAbout, false},
     {button::kStop, requestStop, false},
+    {button::kHelp, showHelp, false},
     {button::kRedrawColors, redrawWithColors, true},
     {button::kMinimize, minimizeEditor, false},
     {button::kAddColor, AddColorSet, false},
