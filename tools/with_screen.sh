@@ -19,7 +19,9 @@ finish() {
 trap finish EXIT
 
 exec 3>"$scratch/display"
-Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp >"$scratch/xvfb.log" 2>&1 &
+# Without -noreset the screen starts anew when its last client leaves, and a question asked
+# before the manager has come throws the manager out.
+Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset >"$scratch/xvfb.log" 2>&1 &
 screen=$!
 exec 3>&-
 for _ in $(seq 400); do
@@ -42,5 +44,5 @@ for _ in $(seq 400); do
     [ "$manages" = 0 ] || break
     sleep 0.05
 done
-[ "$manages" != 0 ] || { echo "the window manager did not start" >&2; exit 1; }
+[ "$manages" != 0 ] || { echo "the window manager did not start:" >&2; cat "$scratch/openbox.log" >&2; exit 1; }
 "$@"

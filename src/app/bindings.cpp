@@ -31,10 +31,11 @@ struct Binding {
 const Binding kBindings[] = {
     {&frmSplash, "", Event::Load, frmSplash_Load},
     {&frmSplash, "", Event::Click, frmSplash_Click},
+    {&frmSplash, "", Event::Close, frmSplash_Click},
     {&frmSplash, "Timer1", Event::Timer, frmSplash_Timer},
 
     {&SizeSelect, "", Event::Load, SizeSelect_Load},
-    {&SizeSelect, "", Event::Unload, SizeSelect_Unload},
+    {&SizeSelect, "", Event::Close, SizeSelect_Close},
     {&SizeSelect, "Label11", Event::MouseDown, Title_MouseDown},
     {&SizeSelect, "NTool", Event::MouseDown, SizeSelect_ButtonDown},
     {&SizeSelect, "NTool", Event::MouseMove, SizeSelect_ButtonMove},
@@ -72,6 +73,7 @@ const Binding kBindings[] = {
     {&Form1, "MapView", Event::MouseDown, MapView_MouseDown},
     {&Form1, "MapView", Event::MouseMove, MapView_MouseMove},
     {&Form1, "MapView", Event::MouseUp, MapView_MouseUp},
+    {&Form1, "MapView", Event::DblClick, MapView_DblClick},
     {&Form1, "Picker", Event::MouseDown, Picker_MouseDown},
     {&Form1, "Picker", Event::MouseMove, Picker_MouseMove},
     {&Form1, "Picker", Event::MouseUp, Picker_MouseUp},

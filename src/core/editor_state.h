@@ -13,9 +13,13 @@ namespace ombrelia {
 extern std::int16_t DrawHeight;  // 0..255, height of pencil and line; load, picker
 
 // Camera of the perspective view.
-extern std::int16_t ViewYaw;   // degrees 0..359; InitEditor, 3-D drag
-extern std::int16_t ViewTilt;  // degrees 0..359; InitEditor, 3-D drag
-extern double ViewZoom;        // -400..195; InitEditor, 3-D drag
+extern std::int16_t ViewYaw;       // degrees 0..359; InitEditor, 3-D drag
+extern std::int16_t ViewTilt;      // degrees 0..359; InitEditor, 3-D drag
+extern double ViewZoom;            // -400..195; InitEditor, 3-D drag
+extern std::int16_t ViewPanX;      // projected units to the right; 3-D drag
+extern std::int16_t ViewPanY;      // projected units downwards; 3-D drag
+extern std::int16_t ViewOffset;    // pixels that centre a small map; 3-D drawing
+extern std::int16_t ViewQuadrant;  // 1..5, quarter of ViewYaw; 3-D drawing
 
 extern CheckedArray<std::int16_t, 0, 30> GroupCurrent;  // button on in each group; button handlers
 
@@ -38,8 +42,8 @@ extern float DownX;                      // cells, last press on MapView; gestur
 extern float DownY;                      // cells, last press on MapView; gestures
 extern std::int16_t LastEdgeZone;        // 0..8, last zone of ClampToMap; gestures
 
-// Path of a drag; the gestures record, the tools walk it.
-extern CheckedArray<std::int16_t, 0, 600> StrokeX;  // cells; a stroke begins at subscript 1
+// Path of a stroke (cells) or last place of a 3-D drag (view pixels); the gestures record it.
+extern CheckedArray<std::int16_t, 0, 600> StrokeX;  // a stroke begins at subscript 1
 extern CheckedArray<std::int16_t, 0, 600> StrokeY;
 extern std::int16_t StrokeCount;  // next free subscript, 0..600; gestures
 

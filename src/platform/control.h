@@ -34,6 +34,7 @@ enum class Event {
     KeyDown,
     Load,
     Unload,
+    Close,  // the user closes the window; a window without this handler is unloaded
     Timer,
     Count
 };

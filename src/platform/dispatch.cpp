@@ -110,11 +110,18 @@ void deliverMouse(Control& control, Event event, MouseButton button, double x, d
 }
 
 void deliverClose(Window& window) {
+    const auto close = [&window] {
+        if (window.handlerOf(Event::Close) != nullptr) {
+            raise(window, Event::Close);
+        } else {
+            unloadWindow(window);
+        }
+    };
     if (state.depth > 0) {
-        putOff(kCloseKey, [&window] { unloadWindow(window); });
-        return;
+        putOff(kCloseKey, close);
+    } else {
+        runHandler(close);
     }
-    runHandler([&window] { unloadWindow(window); });
 }
 
 bool isNested() {

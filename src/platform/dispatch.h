@@ -27,7 +27,8 @@ void deliver(Control& control, Event event, EventArgs args = {});
 // control, or one inside a disabled one, gets nothing.
 void deliverMouse(Control& control, Event event, MouseButton button, double x, double y);
 
-// The user asks to close the window: it is unloaded, now or when the running handler has returned.
+// The user asks to close the window: its Close handler runs, or it is unloaded; now or when the
+// running handler has returned.
 void deliverClose(Window& window);
 
 // Whether the running handler was called inside a yield of another one.

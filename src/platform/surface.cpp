@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <cstring>
 
 #include "platform/numeric.h"
@@ -49,6 +48,11 @@ std::int32_t Surface::pixelAt(int x, int y) const {
     return static_cast<std::int32_t>(colorOf(row(y)[x]));
 }
 
+bool Surface::hasPixelScale() const {
+    return ScaleLeft == 0 && ScaleTop == 0 && ScaleWidth == static_cast<float>(width_) &&
+           ScaleHeight == static_cast<float>(height_);
+}
+
 void Surface::dot(double u, double v, Color color) {
     const std::int64_t x = roundToEven(pixelX(u));
     const std::int64_t y = roundToEven(pixelY(v));
@@ -75,29 +79,6 @@ void Surface::fillPixels(std::int64_t left, std::int64_t top, std::int64_t right
         std::fill(row(y) + x1, row(y) + x2 + 1, pixel);
     }
     changed();
-}
-
-void Surface::line(double u1, double v1, double u2, double v2, Color color) {
-    const std::int64_t x1 = roundToEven(pixelX(u1));
-    const std::int64_t y1 = roundToEven(pixelY(v1));
-    const std::int64_t x2 = roundToEven(pixelX(u2));
-    const std::int64_t y2 = roundToEven(pixelY(v2));
-    const std::int64_t before = (DrawWidth - 1) / 2;
-    const std::int64_t after = DrawWidth - 1 - before;
-    const bool isSteep = std::llabs(y2 - y1) > std::llabs(x2 - x1);
-    const std::int64_t steps = std::max(std::llabs(x2 - x1), std::llabs(y2 - y1));
-    for (std::int64_t i = 0; i <= steps; ++i) {
-        // Nearest pixel of the ideal line, halves away from the first end.
-        const std::int64_t x =
-            steps == 0 ? x1 : x1 + (2 * i * (x2 - x1) + (x2 < x1 ? -steps : steps)) / (2 * steps);
-        const std::int64_t y =
-            steps == 0 ? y1 : y1 + (2 * i * (y2 - y1) + (y2 < y1 ? -steps : steps)) / (2 * steps);
-        if (isSteep) {
-            fillPixels(x - before, y, x + after, y, color);
-        } else {
-            fillPixels(x, y - before, x, y + after, color);
-        }
-    }
 }
 
 namespace {

@@ -3,15 +3,32 @@
 //
 // Rules of the raster. A point (u, v) of the scale lies at pixel (u - ScaleLeft) * width /
 // ScaleWidth, likewise for v, rounded to nearest, ties to even. A box and a line include the pixels
-// of both their ends. What falls outside the image is discarded.
+// of both their ends. What falls outside the image is discarded, and cutting moves no pixel that
+// stays; it costs nothing, however far away the rest lies. Coordinates beyond 32 bits count as the
+// nearest 32-bit number.
+//
+// A line takes a pixel for each step along its longer axis (across, if both are equal): the one
+// nearest to the ideal line, halves away from the first end. A wider line adds pixels across that
+// axis: (DrawWidth - 1) / 2 rounded down to the left or above, the rest to the right or below.
+//
+// A polygon has its corners at the left top corners of pixels and takes the pixels whose centres
+// lie inside by the even-odd rule. A centre on an edge belongs to the shape on the edge's right; no
+// centre is level with a corner. So shapes that share an edge neither overlap nor leave a gap, and
+// a shape without area has no pixel.
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "platform/color.h"
 
 namespace ombrelia {
+
+// A pixel by its number from the left top corner, or that corner of it.
+struct PixelPoint {
+    std::int32_t x, y;
+};
 
 class Surface {
   public:
@@ -54,6 +71,16 @@ class Surface {
 
     // A line between two points in scale units, both included, DrawWidth pixels wide.
     void line(double u1, double v1, double u2, double v2, Color color);
+
+    // The same between two pixels, whatever the scale.
+    void linePixels(PixelPoint from, PixelPoint to, Color color);
+
+    // A filled polygon of 3 to kMostCorners corners, whatever the scale.
+    static constexpr std::size_t kMostCorners = 8;
+    void polygon(std::span<const PixelPoint> corners, Color color);
+
+    // Whether one unit of the scale is one pixel and (0, 0) the left top one.
+    bool hasPixelScale() const;
 
     struct Area {
         double x, y, width, height;

@@ -38,6 +38,7 @@ CanyonWall::CanyonWall(int bank, int edge) : bank_(bank), edge_(edge), before_(H
         fans_[n].tops.resize(fans_[n].directions.size());
     }
     for (int ring = 0; ring <= edge; ++ring) {
+        rings_.emplace_back(bank + ring, fanFor(bank + ring).directions);
         const double t = -(90 + ring * (180.0 / edge));
         climbs_.push_back(std::sin(t * kPi / 180));
         auto& heights = walls_.emplace_back();
@@ -87,7 +88,7 @@ void CanyonWall::carveAt(double x, double y) {
 
 void CanyonWall::carveRing(int ring, double x, double y) {
     const Fan& fan = fanFor(bank_ + ring);
-    const auto cells = cells_.at(x, y, bank_ + ring, fan.directions);
+    const auto cells = rings_[static_cast<std::size_t>(ring)].at(x, y, cells_);
     const auto& walls = walls_[static_cast<std::size_t>(ring)];
     std::int16_t* heights = HeightMap.data();
     const std::int16_t lowest = SeaLevel;
@@ -102,7 +103,9 @@ void CanyonWall::carveRing(int ring, double x, double y) {
         const int top = std::max(fan.tops[n], ground);
         if (top < kHeights) {
             // Rounded, it is below the ground only if the height itself is.
-            ground = std::min(ground, walls[static_cast<std::size_t>(top)]);
+            if (const std::int16_t wall = walls[static_cast<std::size_t>(top)]; wall < ground) {
+                ground = wall;
+            }
         } else if (const double h = wallHeight(ring, top); h <= kHeights - 1 && h < ground) {
             ground = roundToInt16(h);
         }

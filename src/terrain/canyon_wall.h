@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/objects.h"
+#include "terrain/prepared_ring.h"
 #include "terrain/ring.h"
 
 namespace ombrelia {
@@ -16,6 +17,8 @@ class CanyonWall {
     // bank: radius of the floor; edge: width of the wall, 1 and above. Keeps the ground as it is
     // now for the rim.
     CanyonWall(int bank, int edge);
+    CanyonWall(const CanyonWall&) = delete;
+    CanyonWall& operator=(const CanyonWall&) = delete;
 
     // Cuts the walls around one place; never fills.
     void carveAt(double x, double y);
@@ -39,7 +42,8 @@ class CanyonWall {
     int edge_;
     HeightGrid before_;
     std::array<Fan, kSpacings> fans_;
-    RingCells cells_;
+    std::vector<PreparedRing> rings_;
+    std::vector<std::int32_t> cells_;
     std::vector<double> climbs_;                             // -1..1 for each ring
     std::vector<std::array<std::int16_t, kHeights>> walls_;  // by ring, then by height of the rim
 };

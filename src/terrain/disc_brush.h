@@ -2,6 +2,7 @@
 // cells inside are known beforehand and go row by row; only samples near the rim are computed.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <vector>
@@ -40,11 +41,9 @@ class DiscBrush {
                 effect(heights + first + HeightGrid::kSide * py, last - first + 1);
             }
         }
-        for (const Sample& sample : stencil->loose) {
-            const int px = floorToInt(x + sample.x);
-            const int py = floorToInt(y + sample.y);
-            if (px >= 0 && px <= side && py >= 0 && py <= side) {
-                effect(heights + px + HeightGrid::kSide * py, 1);
+        for (const std::int32_t cell : ring_.atOffsets(x, y, stencil->loose, rings_)) {
+            if (cell != RingCells::kOutside) {
+                effect(heights + cell, 1);
             }
         }
     }
@@ -54,16 +53,12 @@ class DiscBrush {
     struct Run {
         std::int16_t y, first, last;
     };
-    // A sample relative to the centre.
-    struct Sample {
-        double x, y;
-    };
     // What holds for every centre in one part of a cell: cells that are surely hit, and the samples
     // whose cell has to be computed.
     struct Stencil {
         int uses = 0;
         std::vector<Run> runs;
-        std::vector<Sample> loose;
+        Directions loose;
     };
 
     static constexpr int kParts = 4;  // of a cell, on each axis

@@ -1,6 +1,8 @@
 #include "terrain/mountain.h"
 
 #include <cmath>
+#include <span>
+#include <utility>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"

@@ -1,6 +1,7 @@
 #include "terrain/raise_lower.h"
 
-#include <cmath>
+#include <cstdint>
+#include <span>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
@@ -11,6 +12,8 @@
 #include "platform/window_life.h"
 #include "terrain/ring.h"
 #include "views/map2d/map_transform.h"
+#include "views/view3d/cell_painters.h"
+#include "views/view3d/projection.h"
 
 namespace ombrelia {
 
@@ -18,6 +21,7 @@ namespace {
 
 constexpr int kRaiseSlider = 3;
 constexpr int kLowerSlider = 11;
+constexpr int kResolutionSlider = 4;
 constexpr int kHighest = 255;
 constexpr int kParts = 15;       // of the peak, for the step from ring to ring
 constexpr int kLowerRings = 10;  // Required: fewer than the bump's (a_pit_is_narrower_than_a_bump)
@@ -27,7 +31,8 @@ bool isEditedIn3D() {
     return !isOn(button::kRotate3D) && !isOn(button::kPan3D) && !isOn(button::kZoom3D);
 }
 
-// Shows changed cells on both pictures; a height without a colour takes the one of before.
+// Shows changed cells on both pictures, or in perspective on the view alone; a height without a
+// colour takes the one of before.
 class CellPainter {
   public:
     // The height that the next cells have; the look-up clamps it.
@@ -38,6 +43,7 @@ class CellPainter {
 
     void paint(int x, int y) const {
         if (isIn3D_) {
+            DrawLineCell(x, y, SliderValues(kResolutionSlider).Value, viewCentre());
             return;
         }
         if (MapSize == kViewSide) {

@@ -8,6 +8,50 @@ constexpr int kTableMiddle = 1080;  // entry of 0 degrees
 constexpr int kThirds = 3;          // entries to a degree
 constexpr int kDegrees = 360;
 
+// Largest whole number not above value, |value| below 2^31, in a form of which the compiler makes
+// several at once: the sum with 1.5 * 2^52 has no digits after the point.
+inline double wholeBelow(double value) {
+    constexpr double kShift = 6755399441055744.0;
+    const double nearest = (value + kShift) - kShift;
+    return nearest - (nearest > value ? 1.0 : 0.0);
+}
+
+// What the loops over the directions of one circle read.
+struct Circle {
+    double x, y, r;
+    const double* cosines;
+    const double* sines;
+    std::size_t count;
+};
+
+void cellsInside(const Circle& circle, std::int32_t* cells) {
+    const auto [x, y, r, cosines, sines, count] = circle;
+    for (std::size_t n = 0; n < count; ++n) {
+        const double px = wholeBelow(x + r * cosines[n]);
+        const double py = wholeBelow(y + r * sines[n]);
+        cells[n] = static_cast<std::int32_t>(px + HeightGrid::kSide * py);
+    }
+}
+
+void cellsAcrossTheBorder(const Circle& circle, double side, std::int32_t* cells) {
+    const auto [x, y, r, cosines, sines, count] = circle;
+    for (std::size_t n = 0; n < count; ++n) {
+        const double px = wholeBelow(x + r * cosines[n]);
+        const double py = wholeBelow(y + r * sines[n]);
+        double cell = px + HeightGrid::kSide * py;
+        cell = px < 0 ? RingCells::kOutside : cell;
+        cell = px > side ? RingCells::kOutside : cell;
+        cell = py < 0 ? RingCells::kOutside : cell;
+        cell = py > side ? RingCells::kOutside : cell;
+        cells[n] = static_cast<std::int32_t>(cell);
+    }
+}
+
+// Whether every cell within reach of a coordinate is on the map.
+bool reachesInside(double middle, double reach, int side) {
+    return middle - reach >= 1 && middle + reach <= side - 1;
+}
+
 }  // namespace
 
 Directions Directions::fromTable(int firstThirds, int stepThirds, int count) {
@@ -25,21 +69,18 @@ Directions wholeDegrees(int step) {
     return Directions::fromTable(kThirds, kThirds * step, (kDegrees + step - 1) / step);
 }
 
-std::span<const std::int32_t> RingCells::at(double x, double y, double r,
-                                            const Directions& directions) {
+std::span<const std::int32_t> RingCells::find(double x, double y, double r,
+                                              const Directions& directions, double reach) {
     const std::size_t count = directions.size();
     cells_.resize(count);
     const int side = checkedMapSide();
-    const double* cosines = directions.cosines();
-    const double* sines = directions.sines();
-    std::int32_t* cells = cells_.data();
-    for (std::size_t n = 0; n < count; ++n) {
-        const int px = floorToInt(x + r * cosines[n]);
-        const int py = floorToInt(y + r * sines[n]);
-        const bool isOutside = static_cast<int>(px < 0) + (px > side) + (py < 0) + (py > side) != 0;
-        cells[n] = isOutside ? kOutside : px + HeightGrid::kSide * py;
+    const Circle circle{x, y, r, directions.cosines(), directions.sines(), count};
+    if (reachesInside(x, reach, side) && reachesInside(y, reach, side)) {
+        cellsInside(circle, cells_.data());
+    } else {
+        cellsAcrossTheBorder(circle, side, cells_.data());
     }
-    return {cells, count};
+    return {cells_.data(), count};
 }
 
 int checkedMapSide() {

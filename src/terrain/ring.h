@@ -47,9 +47,20 @@ class RingCells {
     static constexpr std::int32_t kOutside = -1;
 
     // The circle of radius r around (x, y) on a map of 0..MapSize; holds until the next call.
-    std::span<const std::int32_t> at(double x, double y, double r, const Directions& directions);
+    std::span<const std::int32_t> at(double x, double y, double r, const Directions& directions) {
+        return find(x, y, r, directions, r);
+    }
+
+    // The places (x, y) + offset, none of which is further than reach away on either axis.
+    std::span<const std::int32_t> atOffsets(double x, double y, const Directions& offsets,
+                                            double reach) {
+        return find(x, y, 1, offsets, reach);
+    }
 
   private:
+    std::span<const std::int32_t> find(double x, double y, double r, const Directions& directions,
+                                       double reach);
+
     std::vector<std::int32_t> cells_;
 };
 

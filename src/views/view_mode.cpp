@@ -6,6 +6,7 @@
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "views/map2d/map_transform.h"
+#include "views/view3d/draw_terrain.h"
 
 namespace ombrelia {
 
@@ -30,6 +31,7 @@ void SwitchViewMode(int mode) {
         view.ScaleLeft = 0;
         Form1.ThreeFrame.Visible = true;
         Form1.TwoFrame.Visible = false;
+        DrawQuickGrid();
         setModeRecords(button::k3DMode, button::k2DMode);
     } else {
         ApplyMapTransform();

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/objects.h"
+#include "core/progress.h"
 #include "panels/sliders.h"
 #include "platform/window_life.h"
 #include "stories.h"
@@ -38,6 +39,32 @@ void showWaitWindow(const Album& album) {
     album.driver.inProgram([] { unloadWindow(Form3); });
 }
 
+// The map turned a little, drawn in full in each style.
+void showPerspective(const Album& album) {
+    ScreenDriver& driver = album.driver;
+    driver.click(Form1.NTool(button::k3DMode + kOverlayOffset));
+    driver.moveTo(Form1.MapView, 80, 150);
+    driver.press();
+    driver.moveTo(Form1.MapView, 110, 165);
+    album.add("grid", Form1);
+    driver.release();
+    const auto draw = [&](const char* name) {
+        driver.inProgram([] { ProgressState = 0; });
+        pressWide(driver, button::kDraw3D);
+        driver.waitFor([] { return ProgressState == 2; });
+        driver.moveTo(Form1, 5, 350);
+        driver.rest();
+        album.add(name, Form1);
+    };
+    driver.inProgram([] { setSlider(4, 1); });
+    draw("polygons");
+    driver.inProgram([] { setSlider(4, 3); });
+    driver.click(Form1.NTool(button::kStyleLine + kOverlayOffset));
+    draw("lines");
+    driver.click(Form1.NTool(button::k2DMode + kOverlayOffset));
+    driver.rest();
+}
+
 void tellStory(const Album& album) {
     ScreenDriver& driver = album.driver;
     driver.waitForWindow(frmSplash);
@@ -65,6 +92,7 @@ void tellStory(const Album& album) {
     driver.waitFor([] { return Form1.Picture1.Visible; });
     driver.moveTo(Form1.MapView, 100, 120);
     album.add("landscape", Form1);
+    showPerspective(album);
     pressWide(driver, button::kMenu);
     album.add("menu", Form1);
 }

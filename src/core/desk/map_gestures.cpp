@@ -6,6 +6,7 @@
 #include "core/buttons.h"
 #include "core/color_display.h"
 #include "core/desk/button_events.h"
+#include "core/desk/navigation_gestures.h"
 #include "core/desk/tool_gestures.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
@@ -123,9 +124,14 @@ void ClampToMap(float& x, float& y, std::int16_t& result) {
 
 void MapView_MouseDown(EventArgs& args) {
     const Place place = placeOf(args);
+    switchMotionTool(args.Button == MouseButton::Left, args.Button == MouseButton::Right);
     DoubleClickPending = 0;
     DownX = place.x;
     DownY = place.y;
+    if (is3D()) {
+        MouseState = kGestureNavigate3D;
+        beginNavigation(place.x, place.y);
+    }
     pressShapingTools(place.x, place.y);
     if (isOn(button::kColorPicker)) {
         MouseState = kGesturePick;
@@ -174,6 +180,9 @@ void MapView_MouseMove(EventArgs& args) {
     if (isOn(button::kPan2D) && MouseState == kGestureMapPan) {
         panDrag();
     }
+    if (is3D() && MouseState == kGestureNavigate3D) {
+        navigate(place.x, place.y);
+    }
     if (MouseState != kGestureNone) {
         refreshControl(Form1.MapView);
     }
@@ -189,6 +198,17 @@ void MapView_MouseUp(EventArgs& args) {
     }
     releaseDrawingTools(place.x, place.y);
     MouseState = kGestureNone;
+}
+
+void MapView_DblClick(EventArgs& args) {
+    if (!takePanTool()) {
+        return;
+    }
+    DoubleClickPending = 1;
+    args.Button = MouseButton::Left;
+    args.X = DownX;
+    args.Y = DownY;
+    MapView_MouseDown(args);
 }
 
 namespace {

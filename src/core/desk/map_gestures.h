@@ -8,6 +8,7 @@ namespace ombrelia {
 void MapView_MouseDown(EventArgs& args);
 void MapView_MouseMove(EventArgs& args);
 void MapView_MouseUp(EventArgs& args);
+void MapView_DblClick(EventArgs& args);
 void Picker_MouseDown(EventArgs& args);
 void Picker_MouseMove(EventArgs& args);
 void Picker_MouseUp(EventArgs& args);

@@ -20,6 +20,7 @@
 #include "terrain/fractal/fractal_terrain.h"
 #include "views/map2d/map_transform.h"
 #include "views/map2d/update_map_view.h"
+#include "views/view3d/draw_terrain.h"
 #include "views/view_mode.h"
 
 namespace ombrelia {
@@ -29,6 +30,7 @@ namespace {
 constexpr int kMenuFrame = 11;
 constexpr int kOptionsFrame = 12;
 constexpr int kLastTool = 10;
+constexpr int kResolutionSlider = 4;
 
 void updateView() {
     SwitchViewMode(kMode2D);
@@ -41,6 +43,11 @@ void showMenu() {
 
 void showOptions() {
     ScrollToFrame(kOptionsFrame);
+}
+
+void draw3D() {
+    SwitchViewMode(kMode3D);
+    DrawTerrain3D(SliderValues(kResolutionSlider).Value, kFullDrawing);
 }
 
 void showAbout() {
@@ -85,6 +92,7 @@ constexpr Command kCommands[] = {
     {button::kOptions, showOptions, false},
     {button::kExit, ExitEditor, true},
     {button::kMenu, showMenu, false},
+    {button::kDraw3D, draw3D, true},
     {button::kGenerate, GenerateCommand, true},
     {button::kAbout, showAbout, false},
     {button::kStop, requestStop, false},

@@ -151,12 +151,9 @@ void SizeSelect_Load(EventArgs& /*args*/) {
     layOutEdges();
 }
 
-// The dialog closed from outside, with no editor to return to, ends the process as its own close
-// button does.
-void SizeSelect_Unload(EventArgs& /*args*/) {
-    if (!Form1.Loaded) {
-        endProcess();
-    }
+// Closed from outside, the dialog ends the process as its own close button does.
+void SizeSelect_Close(EventArgs& /*args*/) {
+    endProcess();
 }
 
 void SizeSelect_Choose(EventArgs& args) {

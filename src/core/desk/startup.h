@@ -22,7 +22,7 @@ void frmSplash_Load(EventArgs& args);
 void frmSplash_Timer(EventArgs& args);
 void frmSplash_Click(EventArgs& args);
 void SizeSelect_Load(EventArgs& args);
-void SizeSelect_Unload(EventArgs& args);
+void SizeSelect_Close(EventArgs& args);
 void SizeSelect_Choose(EventArgs& args);
 void SizeSelect_ButtonDown(EventArgs& args);
 void SizeSelect_ButtonMove(EventArgs& args);

@@ -186,6 +186,20 @@ TEST_F(CanyonTool, a_long_segment_is_not_stopped_in_its_middle) {
     EXPECT_EQ(yieldsOfLastRun, 28);
 }
 
+// Half way up the wall the full constant gives just about a half and rounds to 132; the short one
+// stays visibly below.
+TEST_F(CanyonTool, the_wall_uses_a_short_pi) {
+    openMap(129);
+    layFlat(232);
+    StrokeX(1) = StrokeX(2) = 60;
+    StrokeY(1) = StrokeY(2) = 60;
+    StrokeCount = 3;
+    carve({5, 3, button::kCanyonSmooth, false});
+    EXPECT_EQ(HeightMap(80, 60), 131);
+    const double full = 100.5 * std::sin(-180 * std::numbers::pi / 180) + 100.5 + 31;
+    EXPECT_EQ(std::nearbyint(full), 132);
+}
+
 }  // namespace
 
 }  // namespace ombrelia

@@ -8,6 +8,8 @@
 #include "core/windows/form1.h"
 #include "terrain/raise_lower.h"
 #include "terrain/tool_test.h"
+#include "views/view3d/cell_painters.h"
+#include "views/view3d/draw_terrain.h"
 
 namespace ombrelia {
 
@@ -171,6 +173,46 @@ TEST_F(RaiseLower, the_shadow_stays_so_that_a_refresh_paints_the_same_again) {
     std::int16_t height = HeightMap(32, 32);
     EXPECT_EQ(Form1.Mapview2.Canvas.pixelAt(32, 32),
               static_cast<std::int32_t>(HeightToColor(height)));
+}
+
+// Every cell that rises is drawn by its lines at once, with its neighbours as they stand then.
+TEST_F(RaiseLower, without_a_motion_tool_a_cell_is_drawn_in_perspective) {
+    layFlat(10);
+    SliderValues(3).Value = 10;
+    SliderValues(4).Value = 2;
+    OptionStates(button::kRotate3D).State = kUp;
+    DrawQuickGrid();
+    Surface& view = Form1.MapView.Canvas;
+    const Surface buffer = Form1.Mapview2.Canvas;
+    const HeightGrid before = HeightMap;
+    const Surface blank = view;
+    RaiseTerrain(32, 32);
+    const Surface seen = view;
+    const HeightGrid after = HeightMap;
+    expectSamePixels(Form1.Mapview2.Canvas, buffer);
+
+    HeightMap = before;
+    view = blank;
+    for (int r = 1; r <= 15; ++r) {
+        const std::int16_t height = static_cast<std::int16_t>(21 - r);
+        for (int a = 1; a <= 360; a += 5) {
+            const int x = static_cast<int>(std::floor(32 + r * CosTable(3 * a + 1080)));
+            const int y = static_cast<int>(std::floor(32 + r * SinTable(3 * a + 1080)));
+            if (height > HeightMap(x, y)) {
+                HeightMap(x, y) = height;
+                DrawLineCell(x, y, 2, 32.7);
+            }
+        }
+    }
+    EXPECT_TRUE(HeightMap == after);
+    expectSamePixels(view, seen);
+    int drawn = 0;
+    for (int y = 0; y < 257; ++y) {
+        for (int x = 0; x < 257; ++x) {
+            drawn += seen.pixelAt(x, y) != blank.pixelAt(x, y) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(drawn, 100);
 }
 
 TEST_F(RaiseLower, a_large_map_is_painted_pixel_by_pixel) {

@@ -99,6 +99,14 @@ TEST_F(Startup, the_size_dialog_closed_from_outside_ends_the_process_too) {
     EXPECT_TRUE(platform.HasEnded);
 }
 
+TEST_F(Startup, the_splash_closed_from_outside_gives_way_like_at_a_click) {
+    runHandler(startEditor);
+    deliverClose(frmSplash);
+    EXPECT_FALSE(frmSplash.Loaded);
+    EXPECT_TRUE(SizeSelect.Visible);
+    EXPECT_FALSE(platform.HasEnded);
+}
+
 TEST_F(Startup, the_import_choice_is_remembered) {
     runHandler(startEditor);
     EXPECT_EQ(ImportAtStart, 0);

@@ -1,0 +1,20 @@
+// The mouse on the map in perspective: it drives the camera.
+#pragma once
+
+namespace ombrelia {
+
+// A press in the advanced mode picks the tool: left rotates, right zooms. No change in the press
+// that a double click makes.
+void switchMotionTool(bool isLeft, bool isRight);
+
+// Begins a drag at a place in view pixels; an OverflowFailure beyond 16 bits.
+void beginNavigation(float x, float y);
+
+// One step of the drag: turns, moves or zooms the camera and draws the quick grid. A pan beyond 16
+// bits is an OverflowFailure.
+void navigate(float x, float y);
+
+// The advanced mode's double click takes the pan tool; false if nothing is to happen.
+bool takePanTool();
+
+}  // namespace ombrelia
