@@ -1,6 +1,7 @@
 #include "platform/qt/canberra_sound.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <canberra.h>
 #include <chrono>
 #include <condition_variable>
@@ -10,6 +11,8 @@
 #include <string>
 #include <system_error>
 #include <thread>
+
+#include "platform/binary_file.h"
 
 namespace ombrelia {
 
@@ -27,10 +30,28 @@ struct Request {
     Instant asked;
 };
 
+// Takes the words of the sound system about a missing device, which nobody asked for.
+void hearNothing(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
+                 const char* /*format*/, ...) {}
+
+void silenceMessages() {
+    using SetHandler = int (*)(void (*)(const char*, int, const char*, int, const char*, ...));
+    void* library = dlopen("libasound.so.2", RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) {
+        return;
+    }
+    const auto setHandler =
+        reinterpret_cast<SetHandler>(dlsym(library, "snd_lib_error_set_handler"));
+    if (setHandler != nullptr) {
+        setHandler(hearNothing);
+    }
+}
+
 // The library, opened at the first sound: it is no part of the program's start.
 class Player {
   public:
     Player() {
+        silenceMessages();
         void* library = dlopen("libcanberra.so.0", RTLD_NOW | RTLD_LOCAL);
         if (library == nullptr) {
             return;
@@ -87,8 +108,12 @@ void CanberraSound::playAll(std::shared_ptr<Queue> queue) {
     }
 }
 
+// An installed program has its data in a folder of their own.
 std::string CanberraSound::programFile(const std::string& name) {
-    return (QCoreApplication::applicationDirPath() + QLatin1Char('/')).toStdString() + name;
+    const std::string folder =
+        QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+    const std::string beside = folder + '/' + name;
+    return isOrdinaryFile(beside) ? beside : folder + "/../share/ombrelia-terrain-editor/" + name;
 }
 
 void CanberraSound::play(const std::string& path) {
