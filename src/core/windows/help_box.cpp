@@ -1,5 +1,6 @@
 #include "core/windows/help_box.h"
 
+#include <algorithm>
 #include <iterator>
 
 #include "core/button_numbers.h"
@@ -27,7 +28,10 @@ constexpr double kTextSize = 12;
 constexpr double kTitleTop = 10;
 constexpr double kTextTop = 46;
 constexpr double kGap = 10;
+constexpr double kLinkHeight = 19;
+constexpr int kFirstTextPage = 200;
 constexpr double kToolPitch = 44;
+constexpr double kEntryPitch = 33;  // two lines of the contents
 constexpr double kToolSide = 32;
 constexpr double kIconSide = 36;
 constexpr double kIconTextTop = 64;
@@ -80,6 +84,12 @@ double designText(Label& label, const char* name, PictureBox& page, double top,
     return top + height;
 }
 
+// Where the links of a page begin: a list right at the top, a way on at the foot of a text.
+double linksTop(const HelpPage& row, double textBottom) {
+    const double foot = kViewport.height - kMargin - kLinkHeight - kGap;
+    return row.number >= kFirstTextPage ? std::max(textBottom, foot) : textBottom;
+}
+
 double designLinks(PictureBox& page, double top) {
     for (std::size_t row = 0; row < std::size(kHelpLinks); ++row) {
         if (kHelpLinks[row].page == page.Index) {
@@ -91,9 +101,13 @@ double designLinks(PictureBox& page, double top) {
 }
 
 double designContents(PictureBox& page, double top) {
+    top += kGap;
     for (std::size_t i = 0; i < std::size(kContentsEntries); ++i) {
-        top = designText(HelpBox.ContLbl.make(static_cast<int>(i)), "ContLbl", page, top + kGap - 4,
-                         kContentsEntries[i], kLinkStyle);
+        Label& entry = HelpBox.ContLbl.make(static_cast<int>(i));
+        designLabel(entry, "ContLbl", page, {kMargin, top, kTextWidth, kEntryPitch - 1},
+                    kContentsEntries[i], kLinkStyle);
+        entry.Underline = true;
+        top += kEntryPitch;
     }
     return top;
 }
@@ -126,7 +140,7 @@ void designTopic(const HelpPage& row) {
     } else if (row.number == kIconsPage) {
         bottom = designToolList(page, bottom);
     }
-    page.Height = designLinks(page, bottom) + kMargin;
+    page.Height = designLinks(page, linksTop(row, bottom)) + kMargin;
 }
 
 // The pages of the tools stay empty until the window is loaded, which gives them picture and text.

@@ -14,8 +14,8 @@ namespace {
 // %1 letters, %2 edge, %3 and %4 padding of an entry, %5 width; all in logical pixels.
 constexpr const char* kMenuStyle = R"(
 QMenu { background: #141c29; color: #eef3fa; font-size: %1px; border: %2px solid #4c6285;
-        min-width: %5px; padding: %2px; }
-QMenu::item { padding: %3px %4px; background: transparent; }
+        padding: %2px; }
+QMenu::item { min-width: %5px; padding: %3px %4px; background: transparent; }
 QMenu::item:selected { background: #4b6182; }
 QMenu::item:checked { color: #ffd787; }
 QMenu::indicator { width: 0px; height: 0px; })";
@@ -44,7 +44,8 @@ void openListMenu(QWidget& parent, const ListBox& list, const QPoint& corner, in
         return std::max(1, static_cast<int>(std::lround(units * unit)));
     };
     const int edge = pixels(1);
-    const int width = static_cast<int>(widthDevice / parent.devicePixelRatioF()) - 4 * edge;
+    const int width =
+        static_cast<int>(widthDevice / parent.devicePixelRatioF()) - 4 * edge - 2 * pixels(5);
     menu->setStyleSheet(
         QString(kMenuStyle).arg(pixels(11)).arg(edge).arg(pixels(3)).arg(pixels(5)).arg(width));
     for (std::size_t i = 0; i < list.List.size(); ++i) {

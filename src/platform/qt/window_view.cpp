@@ -88,6 +88,8 @@ bool WindowView::followRecord() {
 WindowView::Shown WindowView::lookOf(const Control& control) const {
     Shown look;
     look.rect = visibleDeviceRect(control, desktop_.scale());
+    const bool isLine = control.Kind == ControlKind::Line;
+    look.corner = deviceRect(isLine ? *control.Parent : control, desktop_.scale()).topLeft();
     look.face = control.Face;
     look.caption = control.Caption;
     if (control.Kind == ControlKind::Label) {

@@ -64,6 +64,7 @@ class WindowView : public QWidget {
     // What a part looked like when it was last painted.
     struct Shown {
         QRect rect;
+        QPoint corner;  // uncut, of a line its container's: what is cut off moves unseen
         PictureFace face;
         std::string caption;
         std::array<double, 4> numbers{};  // ends of a line
