@@ -85,6 +85,9 @@ void showProgress() {
         Form1.Picture1.Visible = true;
         Form1.ProgressFrame.Visible = false;
         SetToolsEnabled(true);
+    } else if (ProgressState == 2 && !Form1.MapView.Enabled) {
+        // A run too short for a tick never showed its panel; it left its tools to this one.
+        SetToolsEnabled(true);
     }
 }
 

@@ -123,6 +123,16 @@ void showReadout(int i) {
     }
 }
 
+void setSlider(int i, int value) {
+    SliderRecord& record = SliderValues(i);
+    record.Value = static_cast<std::int16_t>(std::clamp<int>(value, record.Min, record.Max));
+    PlaceSlider(i);
+    if (i != kStripSlider) {
+        showReadout(i);
+        keepBankWider(i);
+    }
+}
+
 void beginThumbDrag(int i, float xTwips) {
     ThumbGrab = roundToInt16(static_cast<double>(xTwips) / kTwipsPerPixel);
     dragThumb(i, xTwips);

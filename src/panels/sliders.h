@@ -16,6 +16,9 @@ void PlaceSlider(int i);
 // Writes the readout of slider 1..14 from its Value.
 void showReadout(int i);
 
+// Gives slider 0..14 a value, kept in its range, as a drag of its thumb would.
+void setSlider(int i, int value);
+
 // A drag of the thumb of slider i: the press, then every move; xTwips from the thumb's left edge.
 void beginThumbDrag(int i, float xTwips);
 void dragThumb(int i, float xTwips);

@@ -36,6 +36,8 @@ enum class Event {
     Unload,
     Close,  // the user closes the window; a window without this handler is unloaded
     Timer,
+    AskValue,  // assistive technology asks for Value, Minimum and Maximum
+    SetValue,  // and wishes another Value
     Count
 };
 
@@ -51,6 +53,9 @@ struct EventArgs {
     float Y = 0;
     int KeyCode = 0;             // virtual key code; a handler may swallow the key with 0
     Control* Dragged = nullptr;  // what is being dragged, for DragOver and DragDrop
+    double Value = 0;            // for AskValue and SetValue
+    double Minimum = 0;
+    double Maximum = 0;
 };
 
 using Handler = void (*)(EventArgs&);
@@ -62,6 +67,10 @@ struct PictureFace {
 
     bool operator==(const PictureFace&) const = default;
 };
+
+// What a part is to assistive technology. Default: a label is a text, a list a list, a picture box
+// with an accessible name a picture, an image with one a button; everything else is ignored.
+enum class AccessRole { Default, Ignored, Button, CheckBox, RadioButton, Slider };
 
 // Fields that every part has.
 struct Control {
@@ -79,7 +88,8 @@ struct Control {
     bool Enabled = true;
     std::string Caption;         // text of a label or list; "&&" shows as one "&"
     std::string AccessibleName;  // what assistive technology calls it; empty: the caption
-    PictureFace Face;            // stretched over the control
+    AccessRole Role = AccessRole::Default;
+    PictureFace Face;  // stretched over the control
 
     std::array<Handler, static_cast<std::size_t>(Event::Count)> On{};
 

@@ -13,6 +13,7 @@
 #include "panels/hints.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"
+#include "platform/numeric.h"
 #include "platform/services.h"
 
 namespace ombrelia {
@@ -103,6 +104,17 @@ void VertScroller_MouseMove(EventArgs& args) {
     if (args.Button == MouseButton::Left) {
         dragThumb(args.Index, args.X);
     }
+}
+
+void Slider_AskValue(EventArgs& args) {
+    const SliderRecord& record = SliderValues(args.Index);
+    args.Value = record.Value;
+    args.Minimum = record.Min;
+    args.Maximum = record.Max;
+}
+
+void Slider_SetValue(EventArgs& args) {
+    setSlider(args.Index, roundToInt32(args.Value));
 }
 
 void Scroller_MouseDown(EventArgs& args) {

@@ -58,17 +58,30 @@ Label& Form1Window::readout(int slider) {
     return *labels[slider - 1];
 }
 
+namespace {
+
+AccessRole roleOf(const ButtonStart& start) {
+    if (start.latching == 0) {
+        return AccessRole::Button;
+    }
+    return start.exclusive != 0 ? AccessRole::RadioButton : AccessRole::CheckBox;
+}
+
+}  // namespace
+
 void designButton(Form1Window& form, int number, Control& container, double left, double top,
                   Picture icon) {
     const ButtonStart& start = *buttonStart(number);
     Image& face = form.NTool.make(number);
     designImage(face, "NTool", container, left, top, facePicture(start.kind));
     face.AccessibleName = start.name;
+    face.Role = roleOf(start);
     switch (start.kind) {
         case kind::kStand:
             designLabel(form.LTool.make(number), "LTool", container,
                         {left + 9, top + 8, face.Width - 18, face.Height - 16}, start.name,
                         {.align = TextAlign::Center, .bold = true});
+            form.LTool(number).Role = AccessRole::Ignored;  // the face says it
             break;
         case kind::kPicture:
             designImage(form.NTool.make(number + kOverlayOffset), "NTool", container, left + 9,

@@ -132,6 +132,8 @@ void designSliders(Form1Window& form) {
         Image& thumb = form.VertScroller.make(row.slider);
         designImage(thumb, "VertScroller", frame, kTrackLeft, row.top, Picture::VertScroller);
         thumb.AccessibleName = row.caption;
+        thumb.Role = AccessRole::Slider;
+        form.readout(row.slider).AccessibleName = row.caption;
         designLabel(form.readout(row.slider), row.readoutName, frame,
                     {kReadoutLeft, row.top + 1, 48, 15}, "",
                     {.color = skin::kAccent, .align = TextAlign::Right});
@@ -144,6 +146,7 @@ void designChecks(Form1Window& form) {
         designButton(form, row.number, frame, row.left, row.top);
         designLabel(form.LTool.make(row.number), "LTool", frame,
                     {row.left + 21, row.top, row.textWidth, 16}, buttonStart(row.number)->name, {});
+        form.LTool(row.number).Role = AccessRole::Ignored;  // the mark says it
     }
 }
 
@@ -175,6 +178,8 @@ void designColorPage(Form1Window& form) {
             PictureBox& swatch = form.Rng1.make(2 * row + end);
             designPart(swatch, "Rng1", frame, {left + 20 * end, 70, 19, 11});
             swatch.Opaque = true;
+            swatch.AccessibleName = std::string(kRowLabels[row]) + (end == 0 ? ", low" : ", high");
+            swatch.Role = AccessRole::Button;
         }
     }
 }
@@ -188,6 +193,7 @@ void designStripBar(Form1Window& form) {
     designImage(form.ScrollDown.make(0), "ScrollDown", form, kBarLeft,
                 kPanelTop + kPanelHeight - kArrowSide, Picture::DownArrow);
     form.Scroller(0).AccessibleName = "Option strip";
+    form.Scroller(0).Role = AccessRole::Slider;
     form.ScrollUp(0).AccessibleName = "Scroll up";
     form.ScrollDown(0).AccessibleName = "Scroll down";
 }

@@ -153,7 +153,11 @@ void HeadlessPlatform::minimize(Window& window) {
     log("minimize " + window.Name);
 }
 
-void HeadlessPlatform::refresh(Control& /*control*/) {}
+void HeadlessPlatform::refresh(Control& control) {
+    if (OnRefresh) {
+        OnRefresh(control);
+    }
+}
 
 void HeadlessPlatform::yield() {
     ++Yields;

@@ -60,6 +60,9 @@ class HeadlessPlatform : public Dialogs,
     std::function<void()> OnYield;
     long Yields = 0;
 
+    // Called at each refresh of a control that is asked for.
+    std::function<void(Control&)> OnRefresh;
+
     // Requests in order, as `dump calls` writes them.
     std::vector<std::string> Calls;
     bool HasEnded = false;

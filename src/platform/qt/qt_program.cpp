@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "platform/generator_random.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/canberra_sound.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
@@ -40,6 +41,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     QApplication::setApplicationName(QStringLiteral("ombrelia-terrain-editor"));
     QApplication::setQuitOnLastWindowClosed(false);
 
+    installAccessibility();
     QtDesktop desktop;
     QtDialogs dialogs(desktop);
     QtSettingsStore settings(dialogs);

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "platform/dispatch.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/list_menu.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_painter.h"
@@ -124,6 +125,7 @@ bool WindowView::sync() {
         if (look != shown_[i]) {
             update(logicalRect(look.rect | shown_[i].rect));
             shown_[i] = std::move(look);
+            announceChange(*this, *window_.Controls[i]);
             isDifferent = true;
         }
     }
@@ -318,6 +320,17 @@ void WindowView::mouseReleaseEvent(QMouseEvent* event) {
     const bool isInside = &controlAt(window_, units.x(), units.y()) == &control;
     if (button == MouseButton::Left && isInside && !isSecondPress_) {
         deliverTo(control, Event::Click, button, units);
+    }
+}
+
+void WindowView::pressControl(Control& control) {
+    const Point corner = cornerInWindow(control);
+    const QPointF middle(corner.x + control.Width / 2, corner.y + control.Height / 2);
+    const QPointer<WindowView> self(this);
+    for (const Event event : {Event::MouseDown, Event::MouseUp, Event::Click}) {
+        if (!self.isNull() && window_.Loaded) {
+            deliverTo(control, event, MouseButton::Left, middle);
+        }
     }
 }
 

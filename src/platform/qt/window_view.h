@@ -20,6 +20,10 @@ class WindowView : public QWidget {
     WindowView(Window& window, QtDesktop& desktop);
 
     const Window& window() const { return window_; }
+    QtDesktop& desktop() { return desktop_; }
+
+    // A press and release in the middle of a control, without the mouse.
+    void pressControl(Control& control);
 
     // Asks for a repaint of every part that differs from what was last painted; follows the
     // record's place where the window is docked. True if anything differed.

@@ -164,6 +164,34 @@ TEST_F(OptionFrames, the_strips_thumb_is_cut_back_at_its_ends) {
     EXPECT_EQ(ThumbGrab, low + 5);
 }
 
+TEST_F(OptionFrames, places_of_the_strips_thumb_are_whole_rounded_down) {
+    Image& thumb = Form1.Scroller(0);
+    const double low = Form1.Filler(0).Top;
+    beginStripThumbDrag(10 * 15);
+    dragStripThumb(12.6F * 15);
+    EXPECT_EQ(ThumbGrab, low + 12);
+    EXPECT_EQ(thumb.Top, low + 2);
+    set(100);  // 100 / 1664 of 177 units: the thumb stands at a fraction
+    const double before = thumb.Top;
+    EXPECT_GT(before - std::floor(before), 0.5);
+    beginStripThumbDrag(10 * 15);
+    EXPECT_EQ(ThumbGrab, std::floor(before) + 11);  // the grab is rounded to the nearest
+    dragStripThumb(10 * 15);
+    EXPECT_EQ(ThumbGrab, std::floor(before) + 10);
+    EXPECT_EQ(thumb.Top, std::floor(before) - 1);
+}
+
+TEST_F(OptionFrames, a_fraction_of_a_frame_drag_is_rounded_down) {
+    set(500);
+    beginFrameDrag(4, 60);
+    dragFrames(4, 54.5F);
+    EXPECT_EQ(value(), 505);
+    beginFrameDrag(4, 60.5F);  // the place itself goes to the even number
+    EXPECT_EQ(PanelGrabY, 60 + 4 * 128);
+    beginFrameDrag(4, 61.5F);
+    EXPECT_EQ(PanelGrabY, 62 + 4 * 128);
+}
+
 TEST_F(OptionFrames, a_dragged_frame_follows_the_pointer_one_to_one) {
     set(500);
     const double before = Form1.OptFrame(4).Top;

@@ -5,6 +5,7 @@
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
 #include "panels/sliders.h"
+#include "platform/dispatch.h"
 
 namespace ombrelia {
 
@@ -50,6 +51,39 @@ class Sliders : public EditorTest {
         dragThumb(i, static_cast<float>((5 + pixels) * 15));
     }
 };
+
+// The road of assistive technology: a value is asked for and wished, no thumb is dragged.
+TEST_F(Sliders, a_wished_value_stays_in_its_range_and_moves_thumb_and_readout) {
+    Image& thumb = Form1.VertScroller(14);
+    EventArgs args;
+    args.Value = 7;
+    deliver(thumb, Event::SetValue, args);
+    EXPECT_EQ(SliderValues(14).Value, 7);
+    EXPECT_EQ(Form1.lblDetail.Caption, "7");
+    EXPECT_NEAR(place(14), room(14) * 6 / 7, 1e-9);
+    args.Value = 99;
+    deliver(thumb, Event::SetValue, args);
+    EXPECT_EQ(SliderValues(14).Value, 8);
+    EXPECT_EQ(Form1.lblDetail.Caption, "8");
+
+    EventArgs asked;
+    raise(thumb, Event::AskValue, asked);
+    EXPECT_EQ(asked.Value, 8);
+    EXPECT_EQ(asked.Minimum, 1);
+    EXPECT_EQ(asked.Maximum, 8);
+}
+
+TEST_F(Sliders, a_wished_river_keeps_the_bank_wider) {
+    setSlider(12, 15);
+    EXPECT_EQ(SliderValues(13).Value, 16);
+    setSlider(13, 5);
+    EXPECT_EQ(SliderValues(12).Value, 4);
+}
+
+TEST_F(Sliders, a_wished_place_of_the_strip_moves_the_frames) {
+    setSlider(0, 128);
+    EXPECT_EQ(Form1.OptFrame(1).Top, 0);
+}
 
 TEST_F(Sliders, start_as_the_table_says) {
     for (const TypedSlider& row : kTyped) {

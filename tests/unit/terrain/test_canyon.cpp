@@ -200,6 +200,15 @@ TEST_F(CanyonTool, the_wall_uses_a_short_pi) {
     EXPECT_EQ(std::nearbyint(full), 132);
 }
 
+TEST_F(CanyonTool, only_an_announced_run_yields_at_its_steps) {
+    recordAcross(30);
+    choose({5, 3, button::kCanyonVertical, false});
+    platform.OnYield = [&] { ProgressState = platform.Yields == 2 ? 2 : ProgressState; };
+    CarveCanyon();
+    EXPECT_EQ(platform.Yields, 2 + 6) << "two steps, then each segment's end";
+    EXPECT_EQ(HeightMap(60, 30), 31);
+}
+
 }  // namespace
 
 }  // namespace ombrelia

@@ -119,6 +119,14 @@ TEST_F(MountainTool, the_widths_of_the_flank) {
     }
 }
 
+TEST_F(MountainTool, a_flank_that_begins_below_0_has_one_circle) {
+    layFlat(40);
+    EXPECT_TRUE(shapeMountain(30, 30, {-50, 2, 10, false}));
+    EXPECT_EQ(HeightMap(32, 30), -50);
+    EXPECT_EQ(HeightMap(33, 30), 40);
+    EXPECT_EQ(platform.Yields, 2);
+}
+
 TEST_F(MountainTool, higher_ground_stays_if_only_lower_heights_change) {
     layFlat(255);
     const HeightGrid before = HeightMap;

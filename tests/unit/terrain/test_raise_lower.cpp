@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "core/button_numbers.h"
 #include "core/color_ramp.h"
@@ -221,6 +222,45 @@ TEST_F(RaiseLower, a_large_map_is_painted_pixel_by_pixel) {
     apply(Tool::Raise, 100.5F, 100.5F, 10);
     EXPECT_EQ(Form1.MapView.Canvas.pixelAt(101, 101), Form1.Mapview2.Canvas.pixelAt(101, 101));
     EXPECT_EQ(yieldsOfLastRun, 0);
+}
+
+// Each circle of the bump and of the pit is shown when it is complete.
+TEST_F(RaiseLower, each_circle_is_shown_on_its_own) {
+    std::vector<int> firstHeights;
+    std::vector<int> thirdHeights;
+    platform.OnRefresh = [&](const Control& control) {
+        if (&control == &Form1.MapView) {
+            firstHeights.push_back(HeightMap(32, 32));
+            thirdHeights.push_back(HeightMap(34, 32));
+        }
+    };
+    layFlat(60);
+    SliderValues(3).Value = 10;
+    RaiseTerrain(32, 32);
+    // 70 / (70 / 15.0) lies a hair below 15.
+    ASSERT_EQ(firstHeights.size(), 14U);
+    EXPECT_EQ(firstHeights[0], 70);
+    EXPECT_EQ(thirdHeights[0], 60);
+    EXPECT_EQ(thirdHeights[2], 62);  // 70 less two times 4
+    firstHeights.clear();
+    layFlat(62);
+    RaiseTerrain(32, 32);
+    EXPECT_EQ(firstHeights.size(), 15U);
+    firstHeights.clear();
+    thirdHeights.clear();
+    layFlat(60);
+    SliderValues(11).Value = 10;
+    LowerTerrain(32, 32);
+    ASSERT_EQ(firstHeights.size(), 10U);
+    EXPECT_EQ(firstHeights[0], 50);
+    EXPECT_EQ(thirdHeights[0], 60);
+    EXPECT_EQ(thirdHeights[2], 56);  // 50 and two times 3
+    // A pit that climbs over the highest height ends with that circle.
+    firstHeights.clear();
+    layFlat(255);
+    SliderValues(11).Value = 4;
+    LowerTerrain(32, 32);
+    EXPECT_EQ(firstHeights.size(), 1U);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "core/button_numbers.h"
 #include "core/editor_state.h"
@@ -160,6 +161,15 @@ TEST_F(Stroke, a_line_to_itself_changes_nothing_but_is_a_run) {
     EXPECT_EQ(ProgressState, 2);
 }
 
+TEST_F(Stroke, a_line_to_itself_keeps_the_total_of_before) {
+    recordLine(30, 30, 30, 30);
+    ProgressTotal = 777;
+    draw(kLineStroke);
+    EXPECT_EQ(ProgressTotal, 777);
+    EXPECT_EQ(yieldsOfLastRun, 0);
+    EXPECT_EQ(Form1.WorkWhat.Caption, "Drawing Line");
+}
+
 TEST_F(Stroke, the_longest_stroke_ends_at_its_599th_point) {
     openMap(257);
     setPens(1, 90);
@@ -225,6 +235,28 @@ TEST_F(Stroke, a_stopped_line_keeps_what_it_has_drawn) {
     EXPECT_TRUE(Form1.Line1.Visible);
     finishStop();
     EXPECT_FALSE(Form1.Line1.Visible);
+}
+
+TEST_F(Stroke, a_line_is_shown_at_each_step_before_its_yield) {
+    setPens(1, 90);
+    recordLine(10, 10, 14, 10);
+    struct Shown {
+        std::int32_t done;
+        long yields;
+        bool operator==(const Shown&) const = default;
+    };
+    std::vector<Shown> shown;
+    const long before = platform.Yields;
+    platform.OnRefresh = [&](const Control& control) {
+        if (&control == &Form1.MapView) {
+            shown.push_back({ProgressDone, platform.Yields - before});
+        }
+    };
+    DrawStroke(kLineStroke);
+    EXPECT_EQ(shown, (std::vector<Shown>{{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}}));
+    shown.clear();
+    DrawStroke(kPencilStroke);
+    EXPECT_EQ(shown.size(), 0U) << "a pencil is not shown before the refresh";
 }
 
 // The brush alone: every sample counted on both ways, at centres chosen to lie on the borders

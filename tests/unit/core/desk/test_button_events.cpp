@@ -63,6 +63,7 @@ Control* overlayOf(int i) {
 
 TEST_F(ButtonEvents, every_pixel_of_a_push_button_fires_it) {
     platform.RandomState = 1;
+    platform.OnYield = [] { StopFlag = 1; };  // a long command ends at its first chance
     OptionStates(button::kAutoRefresh).State = kUp;
     SliderValues(14).Value = 1;
     for (int i = 11; i <= 27; ++i) {
@@ -72,20 +73,15 @@ TEST_F(ButtonEvents, every_pixel_of_a_push_button_fires_it) {
         int missed = 0;
         for (int y = 0; y < face.Height; ++y) {
             for (int x = 0; x < face.Width; ++x) {
-                // The edges of face and overlay; what lies between fires as they do.
                 const Point corner = cornerInWindow(face);
                 const double px = corner.x + x + 0.5;
                 const double py = corner.y + y + 0.5;
                 const bool isOnOverlay = overlay != nullptr && isInside(*overlay, px, py);
-                const bool isEdge =
-                    x < 11 || y < 10 || x >= face.Width - 11 || y >= face.Height - 10;
-                if (!isEdge || (x % 5 != 0 && y % 3 != 0)) {
-                    continue;
-                }
                 Control& hit = isOnOverlay ? *overlay : static_cast<Control&>(Form1.NTool(i));
                 missed += firesAt(hit, px, py) ? 0 : 1;
             }
         }
+        platform.Calls.clear();
         EXPECT_EQ(missed, 0) << i;
     }
 }

@@ -46,6 +46,16 @@ TEST_F(InitEditorTest, the_whole_field_is_flat_whatever_the_size) {
     EXPECT_TRUE(ShadowMap == flat);
 }
 
+TEST_F(InitEditorTest, numbers_without_a_button_are_put_up_too) {
+    OptionStates(39).State = 2;
+    OptionStates(74).State = 1;
+    OptionStates(75).State = 2;
+    InitEditor();
+    EXPECT_EQ(OptionStates(39).State, 0);
+    EXPECT_EQ(OptionStates(74).State, 0);
+    EXPECT_EQ(OptionStates(75).State, 2);  // beyond the editor's buttons
+}
+
 TEST_F(InitEditorTest, constants_and_camera_have_their_start) {
     ViewYaw = 1;
     ViewTilt = 2;

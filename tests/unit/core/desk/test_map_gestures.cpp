@@ -164,6 +164,18 @@ TEST_F(MapGestures, a_pan_drag_moves_both_ways) {
     EXPECT_EQ(Form1.MapView.Canvas.ScaleTop, -55);
 }
 
+TEST_F(MapGestures, a_pan_press_shows_the_whole_map_and_its_moves_copy_nothing) {
+    selectTool(button::kPan2D);
+    Surface& view = Form1.MapView.Canvas;
+    view.clear();
+    press(100, 100);
+    EXPECT_EQ(view.pixelAt(5, 5), Form1.Mapview2.Canvas.pixelAt(1, 1));
+    EXPECT_NE(view.pixelAt(5, 5), 0);
+    view.clear();
+    move(110, 95);
+    EXPECT_EQ(view.pixelAt(5, 5), 0);
+}
+
 TEST_F(MapGestures, a_right_press_swaps_pan_and_zoom) {
     selectTool(button::kZoom2D);
     press(100, 100, MouseButton::Right);

@@ -93,6 +93,17 @@ TEST_F(RunCommandTest, a_drawing_tool_leaves_the_perspective) {
     EXPECT_EQ(SliderValues(0).Value, 0);
 }
 
+TEST_F(RunCommandTest, leaving_the_perspective_by_a_tool_shows_the_map_at_once) {
+    run(6);
+    Form1.MapView.Canvas.clear();
+    run(0);
+    EXPECT_NE(Form1.MapView.Canvas.pixelAt(128, 128), 0);
+    EXPECT_EQ(Form1.MapView.Canvas.pixelAt(128, 128), Form1.Mapview2.Canvas.pixelAt(32, 32));
+    Form1.MapView.Canvas.clear();
+    run(1);  // not from the perspective any more: the view is left alone
+    EXPECT_EQ(Form1.MapView.Canvas.pixelAt(128, 128), 0);
+}
+
 TEST_F(RunCommandTest, updating_paints_what_changed) {
     HeightMap(3, 3) = 200;
     run(12);

@@ -135,6 +135,12 @@ TEST_F(Startup, the_joke_of_the_size_dialog) {
     EXPECT_EQ(EggArmed, 1);
 }
 
+TEST_F(Startup, the_size_dialog_stands_on_the_ground_of_the_hint_frame) {
+    runHandler(startEditor);
+    EXPECT_NE(HelpFrm.Face.picture, Picture::None);
+    EXPECT_EQ(SizeSelect.Picture1.Face, HelpFrm.Face);
+}
+
 TEST_F(Startup, four_lines_frame_the_size_dialog) {
     runHandler(startEditor);
     const double right = SizeSelect.Width - 1;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/button_numbers.h"
+#include "core/desk/tool_gestures.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
@@ -219,6 +220,20 @@ TEST_F(ToolGestures, each_tool_has_its_gesture) {
     }
 }
 
+TEST_F(ToolGestures, the_sum_of_a_canyons_point_is_single_precision) {
+    openMap(257);
+    choose(button::kCanyon);
+    MouseState = kGestureCanyon;
+    StrokeX(1) = 20;
+    StrokeY(1) = 50;
+    const float beside = std::nextafter(20.0F, 21.0F);
+    StrokeCount = 2;
+    EXPECT_TRUE(moveCanyonTool(beside, 50));  // 70 as single, a little more as double
+    EXPECT_EQ(StrokeCount, 2);
+    EXPECT_TRUE(moveCanyonTool(20.001F, 50));
+    EXPECT_EQ(StrokeCount, 3);
+}
+
 TEST_F(ToolGestures, without_a_kind_of_motion_a_press_shapes) {
     choose(button::kMountain);
     for (const int i : {button::kRotate3D, button::kPan3D, button::kZoom3D}) {
@@ -245,6 +260,29 @@ TEST_F(ToolGestures, dots_lie_in_the_scale_of_the_moment) {
     deliverMouse(Form1.MapView, Event::MouseDown, MouseButton::Left, 50, 70);
     deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 90, 120);
     EXPECT_EQ(view.pixelAt(90, 120), 0xFFFFFF);
+}
+
+// A path that is full ends the move before the map is shown; a point that the canyon passes over
+// does not.
+TEST_F(ToolGestures, a_move_with_a_full_path_shows_nothing) {
+    int shown = 0;
+    platform.OnRefresh = [&](const Control& control) { shown += &control == &Form1.MapView; };
+    for (const int tool : {button::kPencil, button::kCanyon}) {
+        choose(tool);
+        deliverMouse(Form1.MapView, Event::MouseDown, MouseButton::Left, 20, 20);
+        shown = 0;
+        deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 40, 40);
+        EXPECT_EQ(shown, 1);
+        StrokeCount = 600;
+        deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 80, 80);
+        EXPECT_EQ(shown, 1);
+        EXPECT_EQ(StrokeCount, 600);
+    }
+    StrokeX(599) = 10;
+    StrokeY(599) = 20;
+    Form1.MapView.Canvas.ScaleWidth = Form1.MapView.Canvas.ScaleHeight = 65;
+    deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 0, 257 * 30 / 65.0);
+    EXPECT_EQ(shown, 2);
 }
 
 }  // namespace

@@ -1,0 +1,165 @@
+#!/usr/bin/python3
+"""Works the running editor through assistive technology alone:
+    walk_tree.py PROGRAM
+Needs a session bus and a display. Says what is wrong and ends with 1 if anything is."""
+
+import subprocess
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+TITLE = "Ombrelia Terrain Editor"
+
+BUTTONS = ["Menu", "Options", "Import", "Save", "New Map", "Exit", "About", "Generate", "Update 2D",
+           "Draw 3D", "Minimize", "Close", "Add Color", "Delete Color", "Stop", "Help"]
+RADIO_BUTTONS = ["Pencil tool", "Line tool", "Raise Terrain tool", "Lower Terrain tool",
+                 "Fractal Terrain tool", "Color Picker tool", "Mountain tool", "Canyon tool",
+                 "Plain tool", "2D Mode", "3D Mode", "Pan the map", "Zoom the map",
+                 "Rotate the 3D map", "Pan the 3D map", "Zoom the 3D map", "Line Mode", "Dot Mode",
+                 "Polygon Mode", "Vertical", "Very Steep", "Slightly Steep", "Smooth", "Color",
+                 "Black & White"]
+CHECK_BOXES = ["Only change lower heights", "River in the middle", "Use Step Res", "20:1", "10:1",
+               "5:1", "2:1", "1:1", "Automatically refresh after event", "Use Cursors",
+               "Use Button Sounds", "Show HelpBox", "Advanced 3D Editing mode"]
+SLIDERS = ["Thickness:", "Amount", "Resolution", "Draw Width", "Height", "Top Size", "Size",
+           "Smoothness", "River Width", "Bank Width", "Detail", "Option strip"]
+
+READOUTS = ["Thickness: 1", "Amount 130m", "Resolution 4", "Draw Width 1", "Height 2912m",
+            "Top Size 1", "Size 5", "Smoothness 1", "Height 377m", "Amount 52m", "River Width 3",
+            "Bank Width 10", "Detail 5"]
+
+faults = []
+
+
+def expect(holds, words):
+    if not holds:
+        faults.append(words)
+
+
+def wait_for(what, seconds=20):
+    """What `what` gives once it is true; None if it never is."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        try:
+            found = what()
+        except gi.repository.GLib.Error:
+            found = None
+        if found:
+            return found
+        time.sleep(0.1)
+    return None
+
+
+def program():
+    desktop = Atspi.get_desktop(0)
+    for i in range(desktop.get_child_count()):
+        child = desktop.get_child_at_index(i)
+        if child is not None and child.get_name() in (TITLE, "ombrelia-terrain-editor"):
+            return child
+    return None
+
+
+def parts(root):
+    """Everything below root, itself included."""
+    root.clear_cache()
+    yield root
+    for i in range(root.get_child_count()):
+        child = root.get_child_at_index(i)
+        if child is not None:
+            yield from parts(child)
+
+
+def find(name, role):
+    app = program()
+    if app is None:
+        return None
+    for part in parts(app):
+        if part.get_name() == name and part.get_role_name() == role:
+            return part
+    return None
+
+
+def states(part):
+    part.clear_cache()
+    return part.get_state_set().get_states()
+
+
+def press(name, role):
+    part = wait_for(lambda: find(name, role))
+    expect(part is not None, f"there is no {role} '{name}'")
+    if part is not None:
+        expect(Atspi.Action.do_action(part, 0), f"'{name}' cannot be pressed")
+    return part
+
+
+def check_parts():
+    for role, names in (("push button", BUTTONS), ("radio button", RADIO_BUTTONS),
+                        ("check box", CHECK_BOXES), ("slider", SLIDERS)):
+        for name in names:
+            expect(find(name, role) is not None, f"there is no {role} '{name}'")
+    expect(find("Map", "image"), "the map is not there")
+    expect(find("Current Colors", "combo box"), "the list of colour sets is not there")
+    for readout in READOUTS:
+        expect(find(readout, "label"), f"there is no readout '{readout}'")
+    for part in parts(program()):
+        if part.get_role_name() in ("push button", "radio button", "check box", "slider"):
+            expect(part.get_name() != "", f"a {part.get_role_name()} has no name")
+
+
+def check_states():
+    expect(Atspi.StateType.CHECKED in states(find("2D Mode", "radio button")), "2D Mode is not on")
+    expect(Atspi.StateType.CHECKED not in states(find("3D Mode", "radio button")), "3D Mode is on")
+    press("Pencil tool", "radio button")
+    on = wait_for(lambda: Atspi.StateType.CHECKED in states(find("Pencil tool", "radio button")))
+    expect(on, "the pencil is not on after a press")
+    box = find("River in the middle", "check box")
+    before = Atspi.StateType.CHECKED in states(box)
+    press("River in the middle", "check box")
+    turned = wait_for(lambda: (Atspi.StateType.CHECKED in states(box)) != before)
+    expect(turned, "the check box does not turn")
+
+
+def check_slider():
+    slider = find("Detail", "slider")
+    limits = (Atspi.Value.get_minimum_value(slider), Atspi.Value.get_maximum_value(slider))
+    expect(limits == (1, 8), "Detail does not go from 1 to 8")
+    Atspi.Value.set_current_value(slider, 7)
+    expect(wait_for(lambda: Atspi.Value.get_current_value(slider) == 7), "Detail does not become 7")
+    expect(wait_for(lambda: find("Detail 7", "label")), "the readout of Detail does not follow")
+
+
+def check_generate():
+    press("Fractal Terrain tool", "radio button")
+    press("Generate", "push button")
+    done = wait_for(lambda: any(part.get_name().startswith(("Generating Fractal", "Updating View"))
+                                for part in parts(program())))
+    expect(done, "nothing is generated")
+
+
+def main():
+    Atspi.init()
+    editor = subprocess.Popen([sys.argv[1]])
+    try:
+        expect(wait_for(program), "the editor is not known")
+        press("Small", "push button")
+        expect(wait_for(lambda: find("Generate", "push button")), "the editor does not open")
+        if not faults:
+            check_parts()
+            check_states()
+            check_slider()
+            check_generate()
+        expect(editor.poll() is None, "the editor has ended")
+    finally:
+        editor.kill()
+        editor.wait()
+    for fault in faults:
+        print(fault, file=sys.stderr)
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
