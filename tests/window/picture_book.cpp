@@ -84,7 +84,7 @@ void showHelp(const Album& album) {
     driver.waitForWindow(HelpBox);
     const auto addPage = [&](const char* name, int page) {
         driver.inProgram([page] { GotoTopic(page); });
-        driver.moveTo(HelpBox, 300, 12);
+        driver.moveTo(HelpBox, 100 + page % 50, 12);
         album.add(name, HelpBox);
     };
     addPage("help_contents", kContentsPage);
