@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs a command on a virtual screen of its own, with a window manager:
 #   tools/with_screen.sh [WIDTHxHEIGHT] COMMAND ...
+# With MANAGER=none there is no window manager.
 set -euo pipefail
 size=1920x1080
 if [[ $1 =~ ^[0-9]+x[0-9]+$ ]]; then
@@ -36,6 +37,7 @@ mkdir -p "$scratch/config" "$scratch/runtime"
 chmod 700 "$scratch/runtime"
 export XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch/runtime
 export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES="qt.qpa.*=false"
+[ "${MANAGER:-}" != none ] || { "$@"; exit; }
 openbox >"$scratch/openbox.log" 2>&1 &
 manager=$!
 for _ in $(seq 400); do

@@ -30,6 +30,8 @@ std::vector<ValueRow> coreValues() {
         valueRow("AppName", AppName),
         valueRow("SplashMode", SplashMode),
         valueRow("ImportAtStart", ImportAtStart),
+        valueRow("ImportTarget", ImportTarget),
+        valueRow("ImportDirect", ImportDirect),
         valueRow("NewMapPending", NewMapPending),
         valueRow("EggArmed", EggArmed),
         valueRow("BaseHeight", BaseHeight),

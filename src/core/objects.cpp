@@ -10,6 +10,8 @@ std::int16_t MapSize = 0;
 std::string AppName;
 std::int16_t SplashMode = 0;
 std::int16_t ImportAtStart = 0;
+std::int16_t ImportTarget = 0;
+std::int16_t ImportDirect = 0;
 std::int16_t NewMapPending = 0;
 std::int16_t EggArmed = 0;
 std::int16_t BaseHeight = 0;
@@ -61,5 +63,29 @@ std::int16_t HelpSliderDragState = 0;
 std::int16_t HelpThumbGrab = 0;
 Color TitleActiveColor = 0;
 Color TitleInactiveColor = 0;
+
+namespace {
+
+struct SizeName {
+    std::int16_t mapSize;
+    const char* suffix;
+};
+constexpr SizeName kSizeNames[] = {
+    {kMiniatureSize, " - Miniature Map"},
+    {kSmallSize, " - Small Map"},
+    {kMediumSize, " - Medium Map"},
+    {kLargeSize, " - Large Map"},
+};
+
+}  // namespace
+
+const char* sizeSuffix() {
+    for (const SizeName& row : kSizeNames) {
+        if (row.mapSize == MapSize) {
+            return row.suffix;
+        }
+    }
+    return "";
+}
 
 }  // namespace ombrelia

@@ -36,10 +36,15 @@ extern std::int16_t MapSize;        // points on a side; size dialog, import
 extern std::string AppName;         // title and key of the settings; frmSplash
 extern std::int16_t SplashMode;     // 0 start-up splash, 1 About box; Form1's load
 extern std::int16_t ImportAtStart;  // 1 from the choice Import until it has run; size dialog
+extern std::int16_t ImportTarget;   // MapSize that the import sets; import
+extern std::int16_t ImportDirect;   // 1 copies point for point, 0 samples; import
 extern std::int16_t NewMapPending;  // 1 between New Map's Yes and the unloading; start-up
 extern std::int16_t EggArmed;       // 1 after a double click on the joke; size dialog
 extern std::int16_t BaseHeight;     // height of a new map, 0..255; InitEditor
 extern std::int16_t SeaLevel;       // zero of the metre scale, 0..255; InitEditor
+
+// What the title says of a map of MapSize points a side; empty for another number.
+const char* sizeSuffix();
 
 // Colour table: rows 1..6, ends 1 (low) and 2 (high), components 0 height, 1 red, 2 green, 3 blue,
 // each 0..255. Kept with the row fastest.

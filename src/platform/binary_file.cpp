@@ -99,6 +99,11 @@ bool isOrdinaryFile(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+bool isNameTaken(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 || errno != ENOENT;
+}
+
 void undoCreation(const std::string& path, bool wasNew) {
     if (wasNew) {
         removeFile(path);

@@ -40,6 +40,9 @@ class BinaryFile {
 // Whether there is an ordinary file, or a link to one, of this name.
 bool isOrdinaryFile(const std::string& path);
 
+// Whether anything of this name is there, whatever it is.
+bool isNameTaken(const std::string& path);
+
 // Takes away what a failed save left: a file that it created is removed, one that was empty before
 // is empty again. Does nothing if that is impossible.
 void undoCreation(const std::string& path, bool wasNew);

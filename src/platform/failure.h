@@ -39,6 +39,13 @@ class FileFailure : public Failure {
     FileFailure(const std::string& action, const std::string& path, const std::string& reason);
 };
 
+// A picture that cannot be loaded.
+class PictureFailure : public Failure {
+  public:
+    // reason: a clause without a full stop.
+    PictureFailure(const std::string& path, const std::string& reason);
+};
+
 // Thrown by endProcess() so that nothing behind it runs; reaches the event loop, which ends.
 struct ProcessEnd {};
 

@@ -27,6 +27,15 @@ std::string fileFailed(const std::string& action, const std::string& path,
            ". The map is unharmed.";
 }
 
+std::string pictureFailed(const std::string& path, const std::string& reason) {
+    return "The picture \"" + path + "\" could not be loaded: " + reason + ". The map is unharmed.";
+}
+
+std::string pictureTooLarge(long long width, long long height) {
+    return "It has " + std::to_string(width) + " x " + std::to_string(height) +
+           " pixels, which is more than can be held";
+}
+
 std::string settingsNotSaved(const std::string& path, const std::string& reason) {
     return "Your preferences could not be saved in \"" + path + "\": " + reason +
            ". The editor goes on; the map is unharmed.";
@@ -46,5 +55,8 @@ MissingPartFailure::MissingPartFailure(const std::string& what, int index)
 FileFailure::FileFailure(const std::string& action, const std::string& path,
                          const std::string& reason)
     : Failure(messages::fileFailed(action, path, reason)) {}
+
+PictureFailure::PictureFailure(const std::string& path, const std::string& reason)
+    : Failure(messages::pictureFailed(path, reason)) {}
 
 }  // namespace ombrelia

@@ -13,6 +13,19 @@ std::string missingPart(const std::string& what, int index);
 std::string fileFailed(const std::string& action, const std::string& path,
                        const std::string& reason);
 
+// Says too that the map is unharmed.
+std::string pictureFailed(const std::string& path, const std::string& reason);
+
+// Reasons for that, where the system has none of its own.
+inline constexpr const char* kEmptyFile = "It is empty";
+inline constexpr const char* kNoOrdinaryFile = "It is not an ordinary file";
+inline constexpr const char* kUnknownPicture = "It is not a picture of a kind that can be read";
+inline constexpr const char* kCutOff = "It is cut off before its end";
+inline constexpr const char* kDamagedHeader = "Its header is damaged";
+inline constexpr const char* kUnknownCompression = "Its kind of compression cannot be read";
+inline constexpr const char* kNoMemory = "There is not enough memory for it";
+std::string pictureTooLarge(long long width, long long height);
+
 // The settings stay as they are on the disk.
 std::string settingsNotSaved(const std::string& path, const std::string& reason);
 

@@ -11,6 +11,7 @@
 
 namespace ombrelia {
 
+class Surface;
 struct Control;
 struct Window;
 
@@ -56,6 +57,17 @@ class FileSystem {
     virtual ~FileSystem() = default;
     // Whether there is a file, not a folder, of this name.
     virtual bool fileExists(const std::string& path) = 0;
+    // Whether anything is there: a file, a folder, a pipe, a device.
+    virtual bool isNameTaken(const std::string& path) = 0;
+};
+
+class PictureLoader {
+  public:
+    virtual ~PictureLoader() = default;
+    // Gives picture the size and the pixels of the picture in the file: upright, transparent parts
+    // over black. What the file holds decides, not its name. Throws PictureFailure; picture may
+    // then hold anything.
+    virtual void loadPicture(const std::string& path, Surface& picture) = 0;
 };
 
 class Clock {
@@ -122,6 +134,7 @@ struct Services {
     RandomSource* random = nullptr;
     Desktop* desktop = nullptr;
     FailureReport* failures = nullptr;
+    PictureLoader* pictures = nullptr;
     Sound* sound = nullptr;
 };
 

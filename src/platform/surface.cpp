@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 #include "platform/numeric.h"
 
@@ -11,17 +12,34 @@ namespace ombrelia {
 void Surface::setSize(int width, int height) {
     width_ = std::max(0, width);
     height_ = std::max(0, height);
+    scaleToPixels();
+    pixels_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), ground());
+    changed();
+}
+
+void Surface::scaleToPixels() {
     ScaleLeft = 0;
     ScaleTop = 0;
     ScaleWidth = static_cast<float>(width_);
     ScaleHeight = static_cast<float>(height_);
-    pixels_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
-    clear();
+}
+
+void Surface::exchangeImage(Surface& other) {
+    pixels_.swap(other.pixels_);
+    std::swap(width_, other.width_);
+    std::swap(height_, other.height_);
+    for (Surface* surface : {this, &other}) {
+        surface->scaleToPixels();
+        surface->changed();
+    }
+}
+
+Pixel Surface::ground() const {
+    return ShowsGround ? pixelOf(Background) & 0x00FFFFFFU : pixelOf(Background);
 }
 
 void Surface::clear() {
-    const Pixel ground = ShowsGround ? pixelOf(Background) & 0x00FFFFFFU : pixelOf(Background);
-    std::fill(pixels_.begin(), pixels_.end(), ground);
+    std::fill(pixels_.begin(), pixels_.end(), ground());
     changed();
 }
 

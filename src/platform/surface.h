@@ -37,6 +37,9 @@ class Surface {
     // Sets the size in pixels (0 and above) and the scale to one unit a pixel from (0, 0); clears.
     void setSize(int width, int height);
 
+    // Exchanges the images and gives both the scale of one unit a pixel.
+    void exchangeImage(Surface& other);
+
     int width() const { return width_; }
     int height() const { return height_; }
 
@@ -100,6 +103,8 @@ class Surface {
     void changed() { ++revision_; }
 
   private:
+    void scaleToPixels();
+    Pixel ground() const;
     double pixelX(double u) const { return (u - ScaleLeft) * width_ / ScaleWidth; }
     double pixelY(double v) const { return (v - ScaleTop) * height_ / ScaleHeight; }
     void fillPixels(std::int64_t left, std::int64_t top, std::int64_t right, std::int64_t bottom,

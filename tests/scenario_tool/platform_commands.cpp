@@ -37,6 +37,17 @@ void answerSave(Session& session, const std::string& path) {
     session.platform.SaveAnswers.push_back(path);
 }
 
+void answerOpen(Session& session, const std::string& path) {
+    session.platform.OpenAnswers.push_back(path);
+}
+
+void tellOfFile(Session& session, const Fields& fields) {
+    if (fields.size() > 1 && fields[1] != "absent") {
+        throw LineError{"a file is there or absent"};
+    }
+    session.platform.Files[fields[0]] = fields.size() == 1;
+}
+
 struct MessageAnswer {
     const char* word;
     int answer;
@@ -62,7 +73,7 @@ void answerInput(Session& session, const std::string& text) {
 }
 
 constexpr DialogAnswer kDialogAnswers[] = {
-    {"save", answerSave}, {"message", answerMessage}, {"input", answerInput}};
+    {"save", answerSave}, {"open", answerOpen}, {"message", answerMessage}, {"input", answerInput}};
 
 // "R G B" or "cancel".
 void answerColor(Session& session, const Fields& fields) {
@@ -94,13 +105,6 @@ void queueAnswer(Session& session, const Fields& fields) {
     row->queue(session, fields[1]);
 }
 
-void tellFile(Session& session, const Fields& fields) {
-    if (fields.size() == 2 && fields[1] != "absent") {
-        throw LineError{"a file is there, or absent"};
-    }
-    session.platform.Files[fields[0]] = fields.size() == 1;
-}
-
 constexpr Command kCommands[] = {
     {"random", 1, kAnyNumber, Acts::Anywhere, queueRandom},
     {"random-lcg", 1, 1, Acts::Anywhere, seedGenerator},
@@ -108,7 +112,7 @@ constexpr Command kCommands[] = {
     {"clock-step", 1, 1, Acts::Anywhere, setClockStep},
     {"setting", 3, 3, Acts::Anywhere, setSetting},
     {"answer", 2, 4, Acts::Anywhere, queueAnswer},
-    {"file", 1, 2, Acts::Anywhere, tellFile},
+    {"file", 1, 2, Acts::Anywhere, tellOfFile},
 };
 
 }  // namespace

@@ -92,6 +92,12 @@ void panDrag() {
     DragPixelY = y;
 }
 
+// An import leaves the map enabled while it borrows the back buffer and writes the heights. Until
+// it has ended no gesture begins, and one that was begun ends without its operation.
+bool isMapBusy() {
+    return isNested();
+}
+
 // Ends a drag that stayed beyond an edge, at the cut place scaled back.
 void releaseAt(const EventArgs& args, const Place& place) {
     const Surface& view = Form1.MapView.Canvas;
@@ -123,6 +129,9 @@ void ClampToMap(float& x, float& y, std::int16_t& result) {
 }
 
 void MapView_MouseDown(EventArgs& args) {
+    if (isMapBusy()) {
+        return;
+    }
     const Place place = placeOf(args);
     switchMotionTool(args.Button == MouseButton::Left, args.Button == MouseButton::Right);
     DoubleClickPending = 0;
@@ -165,6 +174,9 @@ void MapView_MouseMove(EventArgs& args) {
         releaseAt(args, place);
     }
     showUnderPointer(place.x, place.y);
+    if (isMapBusy()) {
+        return;
+    }
     if (!moveCanyonTool(place.x, place.y)) {
         return;
     }
@@ -189,6 +201,11 @@ void MapView_MouseMove(EventArgs& args) {
 }
 
 void MapView_MouseUp(EventArgs& args) {
+    if (isMapBusy()) {
+        MouseState = kGestureNone;
+        Form1.Line1.Visible = false;
+        return;
+    }
     Place place = placeOf(args);
     std::int16_t ignored = 0;
     ClampToMap(place.x, place.y, ignored);
@@ -201,7 +218,7 @@ void MapView_MouseUp(EventArgs& args) {
 }
 
 void MapView_DblClick(EventArgs& args) {
-    if (!takePanTool()) {
+    if (isMapBusy() || !takePanTool()) {
         return;
     }
     DoubleClickPending = 1;

@@ -13,6 +13,7 @@
 #include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
 #include "files/bitmap_export.h"
+#include "files/bitmap_import.h"
 #include "panels/color_editor.h"
 #include "panels/option_frames.h"
 #include "platform/dispatch.h"
@@ -35,6 +36,11 @@ constexpr int kResolutionSlider = 4;
 void updateView() {
     SwitchViewMode(kMode2D);
     UpdateMapView(1);
+}
+
+void updateViewAndImport() {
+    SwitchViewMode(kMode2D);
+    ImportCommand();
 }
 
 void showMenu() {
@@ -87,6 +93,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {button::kClose, ExitEditor, true},
     {button::kUpdate2D, updateView, true},
+    {button::kImport, updateViewAndImport, true},
     {button::kSave, SaveCommand, false},
     {button::kNewMap, StartNewMap, true},
     {button::kOptions, showOptions, false},
@@ -187,6 +194,17 @@ void RunCommand(int& i) {
     } else if (isKnown) {
         command->execute();
     }
+}
+
+void ImportCommand() {
+    if (!importPicture()) {
+        return;
+    }
+    // The selection clears the flag, which no tick would see any more.
+    finishStop();
+    paintState(button::kMenu, kUp);
+    int menu = button::kMenu;
+    RunCommand(menu);
 }
 
 }  // namespace ombrelia

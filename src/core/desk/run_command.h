@@ -9,4 +9,8 @@ namespace ombrelia {
 // from under a running operation asks that to stop and is executed when it has returned.
 void RunCommand(int& i);
 
+// The command "Import" and the choice of that name at the start: a picture becomes the map, and the
+// menu's page is shown. Nothing on Cancel or for a name without a file. Throws PictureFailure.
+void ImportCommand();
+
 }  // namespace ombrelia

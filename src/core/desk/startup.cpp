@@ -7,6 +7,7 @@
 #include "core/color_sets.h"
 #include "core/desk/init_editor.h"
 #include "core/desk/preferences.h"
+#include "core/desk/run_command.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
@@ -32,23 +33,13 @@ constexpr double kMissingProbe = 900;
 struct SizeChoice {
     int button;
     std::int16_t mapSize;
-    const char* suffix;
 };
 constexpr SizeChoice kSizes[] = {
-    {button::kSizeMiniature, kMiniatureSize, " - Miniature Map"},
-    {button::kSizeSmall, kSmallSize, " - Small Map"},
-    {button::kSizeMedium, kMediumSize, " - Medium Map"},
-    {button::kSizeLarge, kLargeSize, " - Large Map"},
+    {button::kSizeMiniature, kMiniatureSize},
+    {button::kSizeSmall, kSmallSize},
+    {button::kSizeMedium, kMediumSize},
+    {button::kSizeLarge, kLargeSize},
 };
-
-const char* sizeSuffix() {
-    for (const SizeChoice& row : kSizes) {
-        if (row.mapSize == MapSize) {
-            return row.suffix;
-        }
-    }
-    return "";
-}
 
 bool isSavedBefore() {
     SettingsStore& store = *services().settings;
@@ -100,6 +91,14 @@ void clearSizeHover(int except) {
         }
     }
 }
+
+// The choice Import is used up, however the import ends.
+struct ImportChoice {
+    ImportChoice() = default;
+    ~ImportChoice() { ImportAtStart = 0; }
+    ImportChoice(const ImportChoice&) = delete;
+    ImportChoice& operator=(const ImportChoice&) = delete;
+};
 
 void openEditor() {
     showWindow(Form3);
@@ -228,6 +227,10 @@ void Form1_Load(EventArgs& /*args*/) {
     showColors();
     SuppressComboClick = 1;
     selectFirstColorSet();
+    if (ImportAtStart == 1) {
+        const ImportChoice choice;
+        ImportCommand();
+    }
 }
 
 void Form1_Unload(EventArgs& /*args*/) {

@@ -1,8 +1,14 @@
 #include "platform/headless/headless_platform.h"
 
 #include "platform/binary_file.h"
+#include "platform/bmp_header.h"
+#include "platform/bmp_reader.h"
+#include "platform/byte_source.h"
 #include "platform/control.h"
 #include "platform/dispatch.h"
+#include "platform/failure.h"
+#include "platform/headless/pnm_reader.h"
+#include "platform/messages.h"
 
 namespace ombrelia {
 
@@ -35,7 +41,7 @@ std::string onOneLine(const std::string& text) {
 }
 
 void HeadlessPlatform::install() {
-    services() = {this, this, this, this, this, this, this, this};
+    services() = {this, this, this, this, this, this, this, this, this};
     resetDispatch();
 }
 
@@ -112,6 +118,22 @@ void HeadlessPlatform::removeSection(const std::string& section) {
 bool HeadlessPlatform::fileExists(const std::string& path) {
     const auto told = Files.find(path);
     return told != Files.end() ? told->second : isOrdinaryFile(path);
+}
+
+bool HeadlessPlatform::isNameTaken(const std::string& path) {
+    const auto told = Files.find(path);
+    return told != Files.end() ? told->second : ombrelia::isNameTaken(path);
+}
+
+void HeadlessPlatform::loadPicture(const std::string& path, Surface& picture) {
+    FileSource source(path);
+    if (isBitmap(source)) {
+        readBitmap(source, picture);
+    } else if (isPortableMap(source)) {
+        readPortableMap(source, picture);
+    } else {
+        throw PictureFailure(path, messages::kUnknownPicture);
+    }
 }
 
 double HeadlessPlatform::secondsSinceMidnight() {

@@ -31,7 +31,8 @@ class HeadlessPlatform : public Dialogs,
                          public RandomSource,
                          public Desktop,
                          public FailureReport,
-                         public Sound {
+                         public Sound,
+                         public PictureLoader {
   public:
     // Puts this platform's services in force.
     void install();
@@ -73,7 +74,7 @@ class HeadlessPlatform : public Dialogs,
     // The control whose drag began last; none before the first.
     Control* Dragged = nullptr;
 
-    // What fileExists answers for a path; the disk answers for the others.
+    // What fileExists and isNameTaken answer for a path; the disk answers for the others.
     std::map<std::string, bool> Files;
 
     // Sentences of failures; with ThrowOnFailure the first one ends the event instead.
@@ -96,6 +97,9 @@ class HeadlessPlatform : public Dialogs,
     void removeKey(const std::string& section, const std::string& key) override;
     void removeSection(const std::string& section) override;
     bool fileExists(const std::string& path) override;
+    bool isNameTaken(const std::string& path) override;
+    // Reads bitmaps and portable maps.
+    void loadPicture(const std::string& path, Surface& picture) override;
     double secondsSinceMidnight() override;
     void seedFromClock() override;
     void draw(std::span<float> draws) override;

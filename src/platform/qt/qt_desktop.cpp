@@ -197,10 +197,10 @@ void QtDesktop::showDocked(Window& host) {
         }
         window->Left = host.Left + host.Width;
         window->Top = host.Top;
+        view->place();                     // some window managers heed the first place alone
         static_cast<void>(view->winId());  // makes the system's windows
         static_cast<void>(hostView.winId());
         view->windowHandle()->setTransientParent(hostView.windowHandle());
-        view->place();
         view->sync();
         view->show();
     }

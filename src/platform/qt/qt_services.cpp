@@ -112,6 +112,10 @@ bool DiskFiles::fileExists(const std::string& path) {
     return isOrdinaryFile(path);
 }
 
+bool DiskFiles::isNameTaken(const std::string& path) {
+    return ombrelia::isNameTaken(path);
+}
+
 double QtClock::secondsSinceMidnight() {
     return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
 }

@@ -44,6 +44,7 @@ class QtSettingsStore : public IniStore {
 class DiskFiles : public FileSystem {
   public:
     bool fileExists(const std::string& path) override;
+    bool isNameTaken(const std::string& path) override;
 };
 
 class QtClock : public Clock {

@@ -38,7 +38,16 @@ MouseButton buttonOf(Qt::MouseButton button) {
     }
 }
 
+// A Wayland client neither knows nor chooses where its windows stand.
+bool canPlaceWindows() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 Qt::WindowFlags flagsOf(const Window& window) {
+    if (window.DockedTo != nullptr && !canPlaceWindows()) {
+        // The one kind of window that a Wayland compositor keeps at a place beside another.
+        return Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+    }
     if (window.DockedTo != nullptr) {
         return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
     }
@@ -64,6 +73,11 @@ void WindowView::place() {
                  static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
     if (window_.DockedTo != nullptr) {
         followRecord();
+        return;
+    }
+    if (!canPlaceWindows()) {
+        window_.Left = 0;
+        window_.Top = 0;
         return;
     }
     const QRect free = desktop_.freeArea();

@@ -42,6 +42,7 @@ class AskedFiles : public FileSystem {
         isAsked = true;
         return true;
     }
+    bool isNameTaken(const std::string& /*path*/) override { return fileExists({}); }
     bool isAsked = false;
 };
 

@@ -1,0 +1,82 @@
+#include "platform/byte_source.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/failure.h"
+#include "platform/messages.h"
+#include "platform/surface.h"
+
+namespace ombrelia {
+
+void MemorySource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
+    if (offset > bytes_.size() || into.size() > bytes_.size() - offset) {
+        throw PictureFailure(path(), messages::kCutOff);
+    }
+    std::copy_n(bytes_.begin() + static_cast<std::ptrdiff_t>(offset), into.size(), into.begin());
+}
+
+FileSource::FileSource(std::string path) : ByteSource(std::move(path)) {
+    // A pipe without a writer must not hold the program up.
+    handle_ = ::open(this->path().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (handle_ < 0) {
+        throw PictureFailure(this->path(), std::strerror(errno));
+    }
+    struct stat status {};
+    const bool isKnown = ::fstat(handle_, &status) == 0;
+    size_ = static_cast<std::uint64_t>(status.st_size);
+    if (!isKnown || !S_ISREG(status.st_mode) || size_ == 0) {
+        const bool isEmpty = isKnown && S_ISREG(status.st_mode);
+        ::close(std::exchange(handle_, -1));
+        throw PictureFailure(this->path(),
+                             isEmpty ? messages::kEmptyFile : messages::kNoOrdinaryFile);
+    }
+}
+
+FileSource::~FileSource() {
+    if (handle_ >= 0) {
+        ::close(handle_);
+    }
+}
+
+void FileSource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
+    while (!into.empty()) {
+        const ssize_t got = ::pread(handle_, into.data(), into.size(), static_cast<off_t>(offset));
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got <= 0) {
+            throw PictureFailure(path(), got < 0 ? std::strerror(errno) : messages::kCutOff);
+        }
+        into = into.subspan(static_cast<std::size_t>(got));
+        offset += static_cast<std::uint64_t>(got);
+    }
+}
+
+void checkPictureSize(const std::string& path, std::int64_t width, std::int64_t height) {
+    constexpr auto kMostPixels = static_cast<std::int64_t>(kLargestPictureBytes / sizeof(Pixel));
+    if (width < 1 || height < 1) {
+        throw PictureFailure(path, messages::kDamagedHeader);
+    }
+    if (width > kMostPixels || height > kMostPixels / width) {
+        throw PictureFailure(path, messages::pictureTooLarge(width, height));
+    }
+}
+
+void sizePicture(const std::string& path, std::int64_t width, std::int64_t height,
+                 Surface& picture) {
+    checkPictureSize(path, width, height);
+    try {
+        picture.setSize(static_cast<int>(width), static_cast<int>(height));
+    } catch (const std::bad_alloc&) {
+        throw PictureFailure(path, messages::kNoMemory);
+    }
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,155 @@
+#include "platform/qt/picture_end.h"
+
+#include <QByteArray>
+#include <QIODevice>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <iterator>
+
+namespace ombrelia {
+
+namespace {
+
+// Bytes from the device's place on; false if there are fewer.
+template <std::size_t count>
+bool take(QIODevice& device, std::array<std::uint8_t, count>& into) {
+    constexpr auto kCount = static_cast<qint64>(count);
+    return device.read(reinterpret_cast<char*>(into.data()), kCount) == kCount;
+}
+
+bool skip(QIODevice& device, qint64 bytes) {
+    const qint64 place = device.pos() + bytes;
+    return bytes >= 0 && place <= device.size() && device.seek(place);
+}
+
+constexpr std::uint8_t kMark = 0xFF;
+constexpr std::uint8_t kStartOfPixels = 0xDA;
+
+// Goes behind the segments up to the first pixels; these may hold a whole smaller picture.
+bool skipToJpegPixels(QIODevice& device) {
+    std::array<std::uint8_t, 2> mark{};
+    std::array<std::uint8_t, 2> length{};
+    while (take(device, mark) && mark[0] == kMark) {
+        if (mark[1] == kMark) {  // filled up in front of a mark
+            device.seek(device.pos() - 1);
+            continue;
+        }
+        if (mark[1] == kStartOfPixels) {
+            return true;
+        }
+        if (!take(device, length) || !skip(device, length[0] * 256 + length[1] - 2)) {
+            return false;
+        }
+    }
+    return false;
+}
+
+// Whether these bytes stand somewhere from the device's place on.
+bool find(QIODevice& device, QByteArrayView wanted) {
+    constexpr qint64 kChunkBytes = 65536;
+    QByteArray text;
+    while (true) {
+        const QByteArray chunk = device.read(kChunkBytes);
+        if (chunk.isEmpty()) {
+            return false;
+        }
+        text = text.right(wanted.size() - 1) + chunk;
+        if (text.contains(wanted)) {
+            return true;
+        }
+    }
+}
+
+bool isJpegComplete(QIODevice& device) {
+    // No pixels look like the mark of the end.
+    constexpr char kEnd[] = {'\xFF', '\xD9'};
+    return skip(device, 2) && skipToJpegPixels(device) && find(device, QByteArrayView(kEnd, 2));
+}
+
+// Chunks of a length each, up to one without a length.
+bool skipGifChunks(QIODevice& device) {
+    std::array<std::uint8_t, 1> length{};
+    while (take(device, length)) {
+        if (length[0] == 0) {
+            return true;
+        }
+        if (!skip(device, length[0])) {
+            return false;
+        }
+    }
+    return false;
+}
+
+// Bytes of the palette that these flags announce.
+qint64 gifPaletteBytes(std::uint8_t flags) {
+    constexpr unsigned kHasPalette = 0x80;
+    return (flags & kHasPalette) == 0 ? 0 : qint64{6} << (flags & 7U);
+}
+
+bool isGifComplete(QIODevice& device) {
+    constexpr std::uint8_t kExtension = 0x21;
+    constexpr std::uint8_t kImage = 0x2C;
+    std::array<std::uint8_t, 13> screen{};
+    if (!take(device, screen) || !skip(device, gifPaletteBytes(screen[10]))) {
+        return false;
+    }
+    std::array<std::uint8_t, 1> kind{};
+    while (take(device, kind)) {
+        if (kind[0] == kImage) {
+            std::array<std::uint8_t, 9> image{};
+            return take(device, image) && skip(device, gifPaletteBytes(image[8]) + 1) &&
+                   skipGifChunks(device);
+        }
+        if (kind[0] != kExtension || !skip(device, 1) || !skipGifChunks(device)) {
+            return false;
+        }
+    }
+    return false;
+}
+
+// The list of its bytes is closed.
+bool isXbmComplete(QIODevice& device) {
+    return find(device, QByteArrayView("}", 1));
+}
+
+// Pixels that are not run-length coded have a length that is known beforehand.
+bool isTgaComplete(QIODevice& device) {
+    constexpr unsigned kCoded = 8;
+    std::array<std::uint8_t, 18> header{};
+    if (!take(device, header)) {
+        return false;
+    }
+    const auto word = [&header](std::size_t at) {
+        return header[at] + header[at + 1] * qint64{256};
+    };
+    const qint64 palette = header[1] == 0 ? 0 : word(5) * ((header[7] + 7) / 8);
+    const qint64 pixels = word(12) * word(14) * ((header[16] + 7) / 8);
+    return (header[2] & kCoded) != 0 || skip(device, header[0] + palette + pixels);
+}
+
+struct EndRow {
+    const char* format;
+    bool (*isComplete)(QIODevice& device);
+};
+constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete},
+                            {"jpg", isJpegComplete},
+                            {"gif", isGifComplete},
+                            {"tga", isTgaComplete},
+                            {"xbm", isXbmComplete}};
+
+}  // namespace
+
+bool isPictureComplete(QIODevice& device, const QByteArray& format) {
+    const auto* row = std::find_if(std::begin(kEnds), std::end(kEnds),
+                                   [&](const EndRow& r) { return format == r.format; });
+    if (row == std::end(kEnds)) {
+        return true;
+    }
+    const qint64 place = device.pos();
+    const bool isComplete = row->isComplete(device);
+    device.seek(place);
+    return isComplete;
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,100 @@
+// Bytes in, heights out through the loader of the real platform and the whole import: the map then
+// holds heights of 0..255, or is as it was and a failure is told.
+#include <QBuffer>
+#include <QImageReader>
+#include <cstdlib>
+
+#include "app/bindings.h"
+#include "core/desk/run_command.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "platform/bmp_header.h"
+#include "platform/bmp_reader.h"
+#include "platform/byte_source.h"
+#include "platform/dispatch.h"
+#include "platform/failure.h"
+#include "platform/headless/headless_platform.h"
+#include "platform/messages.h"
+#include "platform/qt/picture_loader.h"
+#include "platform/window_life.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr std::int64_t kMostPixels = 1 << 20;  // larger ones only take time
+constexpr const char* kName = "fuzz";
+
+class FuzzedLoader : public PictureLoader {
+  public:
+    std::span<const std::uint8_t> Bytes;
+
+    void loadPicture(const std::string& path, Surface& picture) override {
+        MemorySource source(path, Bytes);
+        if (isBitmap(source)) {
+            const BitmapHeader header = readBitmapHeader(source);
+            refuseLarge(header.width, header.height);
+            readBitmap(source, picture);
+            return;
+        }
+        QByteArray bytes(reinterpret_cast<const char*>(Bytes.data()),
+                         static_cast<qsizetype>(Bytes.size()));
+        QBuffer sized(&bytes);
+        sized.open(QIODevice::ReadOnly);
+        const QSize size = QImageReader(&sized).size();
+        refuseLarge(size.width(), size.height());
+        QBuffer device(&bytes);
+        device.open(QIODevice::ReadOnly);
+        readToolkitPicture(device, path, picture);
+    }
+
+  private:
+    static void refuseLarge(std::int64_t width, std::int64_t height) {
+        if (width > 0 && height > kMostPixels / width) {
+            throw PictureFailure(kName, messages::pictureTooLarge(width, height));
+        }
+    }
+};
+
+struct FuzzedDesk {
+    HeadlessPlatform platform;
+    FuzzedLoader loader;
+
+    FuzzedDesk() {
+        resetProcess();
+        platform.install();
+        services().pictures = &loader;
+        platform.Files[kName] = true;
+        MapSize = kMiniatureSize;
+        loadWindow(Form1);
+    }
+};
+
+void importBytes(FuzzedDesk& desk, std::span<const std::uint8_t> bytes) {
+    desk.loader.Bytes = bytes;
+    desk.platform.Calls.clear();
+    desk.platform.Failures.clear();
+    desk.platform.OpenAnswers = {kName};
+    const HeightGrid before = HeightMap;
+    runHandler(ImportCommand);
+    if (!desk.platform.Failures.empty() && !(HeightMap == before)) {
+        std::abort();
+    }
+    for (int y = 0; y <= MapSize; ++y) {
+        for (int x = 0; x <= MapSize; ++x) {
+            if (HeightMap(x, y) < 0 || HeightMap(x, y) > 255) {
+                std::abort();
+            }
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace ombrelia
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static ombrelia::FuzzedDesk desk;
+    ombrelia::importBytes(desk, {data, size});
+    return 0;
+}

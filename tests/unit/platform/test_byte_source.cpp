@@ -1,0 +1,107 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <vector>
+
+#include "platform/byte_source.h"
+#include "platform/failure.h"
+#include "platform/surface.h"
+#include "temp_folder.h"
+
+namespace ombrelia {
+
+namespace {
+
+class FileSourceTest : public testing::Test {
+  protected:
+    static std::string refusalOf(const std::string& path) {
+        try {
+            const FileSource source(path);
+        } catch (const PictureFailure& failure) {
+            return failure.what();
+        }
+        return {};
+    }
+
+    static std::string refusal(const std::string& path, const std::string& reason) {
+        return "The picture \"" + path + "\" could not be loaded: " + reason +
+               ". The map is unharmed.";
+    }
+
+    TempFolder folder;
+};
+
+TEST_F(FileSourceTest, gives_the_bytes_of_any_place) {
+    writeContent(folder / "file", "0123456789");
+    FileSource source(folder / "file");
+    EXPECT_EQ(source.size(), 10U);
+    std::vector<std::uint8_t> bytes(4);
+    source.read(3, bytes);
+    EXPECT_EQ(bytes, (std::vector<std::uint8_t>{'3', '4', '5', '6'}));
+    source.read(6, bytes);
+    EXPECT_EQ(bytes, (std::vector<std::uint8_t>{'6', '7', '8', '9'}));
+    EXPECT_THROW(source.read(7, bytes), PictureFailure);
+    EXPECT_THROW(source.read(~std::uint64_t{0}, bytes), PictureFailure);
+}
+
+TEST_F(FileSourceTest, a_file_that_shrinks_is_cut_off) {
+    writeContent(folder / "file", "0123456789");
+    FileSource source(folder / "file");
+    writeContent(folder / "file", "01");
+    std::vector<std::uint8_t> bytes(4);
+    EXPECT_THROW(source.read(0, bytes), PictureFailure);
+}
+
+TEST_F(FileSourceTest, says_why_a_file_cannot_be_read) {
+    EXPECT_EQ(refusalOf(folder / "none"), refusal(folder / "none", "No such file or directory"));
+    writeContent(folder / "empty", "");
+    EXPECT_EQ(refusalOf(folder / "empty"), refusal(folder / "empty", "It is empty"));
+    writeContent(folder / "closed", "BM");
+    ASSERT_EQ(::chmod((folder / "closed").c_str(), 0), 0);
+    const OrdinaryUser user;
+    EXPECT_EQ(refusalOf(folder / "closed"), refusal(folder / "closed", "Permission denied"));
+}
+
+TEST_F(FileSourceTest, takes_ordinary_files_alone) {
+    constexpr const char* kReason = "It is not an ordinary file";
+    EXPECT_EQ(refusalOf(folder.path()), refusal(folder.path(), kReason));
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(refusalOf(folder / "pipe"), refusal(folder / "pipe", kReason));
+    EXPECT_EQ(refusalOf("/dev/null"), refusal("/dev/null", kReason));
+    EXPECT_EQ(refusalOf("/dev/zero"), refusal("/dev/zero", kReason));
+}
+
+TEST_F(FileSourceTest, links_and_odd_names_are_followed) {
+    const std::string name = folder / "\xE5\x9C\xB0 \"quoted\" \xFF.bmp";
+    writeContent(name, "BM");
+    std::filesystem::create_symlink(name, folder / "link");
+    EXPECT_EQ(FileSource(name).size(), 2U);
+    EXPECT_EQ(FileSource(folder / "link").size(), 2U);
+}
+
+TEST(PictureSize, the_limit_is_one_gibibyte_at_four_bytes_a_pixel) {
+    EXPECT_NO_THROW(checkPictureSize("p", 16384, 16384));
+    EXPECT_NO_THROW(checkPictureSize("p", 268435456, 1));
+    EXPECT_THROW(checkPictureSize("p", 268435457, 1), PictureFailure);
+    EXPECT_THROW(checkPictureSize("p", 1, 268435457), PictureFailure);
+    EXPECT_THROW(checkPictureSize("p", 16385, 16384), PictureFailure);
+    EXPECT_THROW(checkPictureSize("p", 4294967296, 4294967296), PictureFailure);
+    EXPECT_THROW(checkPictureSize("p", 0, 5), PictureFailure);
+    EXPECT_THROW(checkPictureSize("p", 5, -1), PictureFailure);
+}
+
+TEST(PictureSize, a_sized_picture_is_black) {
+    Surface picture;
+    sizePicture("p", 3, 2, picture);
+    EXPECT_EQ(picture.width(), 3);
+    EXPECT_EQ(picture.height(), 2);
+    for (int y = 0; y < 2; ++y) {
+        for (int x = 0; x < 3; ++x) {
+            EXPECT_EQ(picture.row(y)[x], 0xFF000000U);
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace ombrelia
