@@ -8,8 +8,11 @@
 #include "core/desk/startup.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/form2.h"
 #include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
+#include "games/worm/worm.h"
+#include "games/worm/worm_state.h"
 #include "panels/color_editor.h"
 #include "panels/help_box.h"
 #include "panels/hints.h"
@@ -130,6 +133,7 @@ const Binding kBindings[] = {
     {&HelpBox, "LTool", Event::Click, HelpBox_ButtonClick},
     {&HelpBox, "LinkLbl", Event::Click, HelpBox_LinkClick},
     {&HelpBox, "ContLbl", Event::Click, HelpBox_ContentsClick},
+    {&HelpBox, "Label41", Event::DblClick, Label41_DblClick},
     {&HelpBox, "ToolName", Event::Click, HelpBox_ToolClick},
     {&HelpBox, "ToolPic", Event::Click, HelpBox_ToolClick},
     {&HelpBox, "Scroller", Event::MouseDown, HelpBox_ScrollerDown},
@@ -139,6 +143,11 @@ const Binding kBindings[] = {
     {&HelpBox, "ScrollUp", Event::MouseUp, HelpBox_ArrowUp},
     {&HelpBox, "ScrollDown", Event::MouseDown, HelpBox_ArrowDown},
     {&HelpBox, "ScrollDown", Event::MouseUp, HelpBox_ArrowUp},
+
+    {&Form2, "", Event::Load, Form2_Load},
+    {&Form2, "", Event::KeyDown, Form2_KeyDown},
+    {&Form2, "Label2", Event::KeyDown, Form2_KeyDown},
+    {&Form2, "Timer1", Event::Timer, Form2_Timer},
 };
 
 void bind(const Binding& row) {
@@ -157,8 +166,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,
-                                                 &Form1,     &HelpFrm,    &HelpBox};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1,
+                                                 &HelpFrm,   &HelpBox,    &Form2};
     return windows;
 }
 
@@ -167,6 +176,8 @@ const std::vector<ValueRow>& allValues() {
         std::vector<ValueRow> rows = coreValues();
         const std::vector<ValueRow> fractal = fractalValues();
         rows.insert(rows.end(), fractal.begin(), fractal.end());
+        const std::vector<ValueRow> worm = wormValues();
+        rows.insert(rows.end(), worm.begin(), worm.end());
         return rows;
     }();
     return values;

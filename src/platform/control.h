@@ -159,8 +159,8 @@ struct Timer : Control {
     int Interval = 0;  // milliseconds
 };
 
-// A window without a system frame. Left and Top are the place of its corner on the screen in units
-// of the scale in force.
+// A window, without a system frame unless it says otherwise. Left and Top are the place of its
+// corner on the screen in units of the scale in force.
 struct Window : Control {
     Window() : Control(ControlKind::Window) { Visible = false; }
     Window(const Window&) = delete;
@@ -168,6 +168,9 @@ struct Window : Control {
 
     bool Loaded = false;
     bool Minimized = false;
+    bool HasFrame = false;           // the system's frame: title bar, menus, size by hand
+    bool StandsAlone = false;        // shares nothing with the editor: its close stops no operation
+    PictureBox* Ground = nullptr;    // as large as the window at any size: its own surface
     std::vector<Control*> Controls;  // bottom to top; containers before what they contain
 
     // The pointer's last known place in this window, client pixels.

@@ -21,6 +21,7 @@ void (*stopRequest)() = nullptr;  // bound once
 
 // Keys below 0 are kept for closing a window; callers of putOff use 0 and above.
 constexpr int kCloseKey = -1;
+constexpr int kCloseAloneKey = -2;  // and below: each such window closes for itself
 
 struct DepthGuard {
     DepthGuard() { ++state.depth; }
@@ -56,6 +57,13 @@ void placeIn(const Control& control, double x, double y, EventArgs& args) {
     }
     args.X = static_cast<float>(x);
     args.Y = static_cast<float>(y);
+}
+
+int firstFreeKeyFrom(int key) {
+    while (state.putOff.contains(key)) {
+        --key;
+    }
+    return key;
 }
 
 bool takesMouse(const Control& control) {
@@ -117,10 +125,12 @@ void deliverClose(Window& window) {
             unloadWindow(window);
         }
     };
-    if (state.depth > 0) {
-        putOff(kCloseKey, close);
-    } else {
+    if (state.depth == 0) {
         runHandler(close);
+    } else if (window.StandsAlone) {
+        state.putOff[firstFreeKeyFrom(kCloseAloneKey)] = close;
+    } else {
+        putOff(kCloseKey, close);
     }
 }
 
@@ -137,6 +147,10 @@ void putOff(int key, std::function<void()> action) {
     if (stopRequest != nullptr) {
         stopRequest();
     }
+}
+
+bool hasPutOff() {
+    return !state.putOff.empty();
 }
 
 void setStopRequest(void (*request)()) {

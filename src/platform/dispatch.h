@@ -27,8 +27,9 @@ void deliver(Control& control, Event event, EventArgs args = {});
 // control, or one inside a disabled one, gets nothing.
 void deliverMouse(Control& control, Event event, MouseButton button, double x, double y);
 
-// The user asks to close the window: its Close handler runs, or it is unloaded; now or when the
-// running handler has returned.
+// The user closes the window: its Close handler runs, or it is unloaded; now or when the running
+// handler has returned. The latter asks the running operation to stop, unless the window stands
+// alone.
 void deliverClose(Window& window);
 
 // Whether the running handler was called inside a yield of another one.
@@ -40,6 +41,9 @@ bool isHandling();
 // Puts an action off until the outermost handler has returned. A second action of the same kind
 // (told by its key) replaces the first.
 void putOff(int key, std::function<void()> action);
+
+// Whether something waits for the outermost handler to return.
+bool hasPutOff();
 
 // What asks the running operation to stop when something is put off.
 void setStopRequest(void (*request)());

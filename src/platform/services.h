@@ -104,6 +104,8 @@ class Desktop {
     virtual void minimize(Window& window) = 0;
     // Shows what was drawn or changed so far; a platform may gather refreshes.
     virtual void refresh(Control& control) = 0;
+    // Waits; meanwhile windows are painted and the wish to close one is heard, nothing else.
+    virtual void sleep(int milliseconds) = 0;
     // Lets waiting events and timers run.
     virtual void yield() = 0;
     // Lets the user move the window by the press that is being handled.

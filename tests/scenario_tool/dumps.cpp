@@ -1,7 +1,11 @@
 #include "dumps.h"
 
+#include <algorithm>
+
 #include "core/objects.h"
+#include "core/windows/form2.h"
 #include "errors.h"
+#include "games/worm/worm_state.h"
 #include "names.h"
 
 namespace ombrelia::scenario {
@@ -18,7 +22,10 @@ void writeGrid(const HeightGrid& grid, std::ostream& out) {
 }
 
 const Surface& surfaceNamed(const std::string& name) {
-    const Control& control = controlNamed(name);
+    const Control& named = controlNamed(name);
+    const Control* ground =
+        named.Kind == ControlKind::Window ? static_cast<const Window&>(named).Ground : nullptr;
+    const Control& control = ground != nullptr ? *ground : named;
     if (control.Kind == ControlKind::PictureBox) {
         const Surface& canvas = static_cast<const PictureBox&>(control).Canvas;
         if (canvas.width() > 0) {
@@ -89,6 +96,21 @@ void dumpSettings(const Session& session, const Fields& /*none*/, std::ostream& 
 void dumpCalls(const Session& session, const Fields& /*none*/, std::ostream& out) {
     for (const std::string& call : session.platform.Calls) {
         out << call << "\n";
+    }
+}
+
+void dumpWorm(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    constexpr int kLastCell = 16;
+    const int cell = std::max<int>(1, CellSize);
+    out << HeadX << " " << HeadY << " " << Heading << " " << WormLength << " " << Lives << " "
+        << Level << " " << ItemIndex << "\n"
+        << static_cast<int>(Form2.Label2.Left) / cell << " "
+        << static_cast<int>(Form2.Label2.Top) / cell << "\n";
+    for (int y = 0; y <= kLastCell; ++y) {
+        for (int x = 0; x <= kLastCell; ++x) {
+            out << Board(x, y);
+        }
+        out << "\n";
     }
 }
 

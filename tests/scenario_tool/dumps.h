@@ -19,5 +19,6 @@ void dumpSliders(const Session& session, const Fields& none, std::ostream& out);
 void dumpColors(const Session& session, const Fields& none, std::ostream& out);
 void dumpSettings(const Session& session, const Fields& none, std::ostream& out);
 void dumpCalls(const Session& session, const Fields& none, std::ostream& out);
+void dumpWorm(const Session& session, const Fields& none, std::ostream& out);
 
 }  // namespace ombrelia::scenario

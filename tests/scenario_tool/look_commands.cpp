@@ -31,7 +31,7 @@ struct Dump {
 constexpr Dump kDumps[] = {
     {"heights", 0, dumpHeights},   {"shadow", 0, dumpShadow},   {"surface", 1, dumpSurface},
     {"buttons", 0, dumpButtons},   {"sliders", 0, dumpSliders}, {"colors", 0, dumpColors},
-    {"settings", 0, dumpSettings}, {"calls", 0, dumpCalls},
+    {"settings", 0, dumpSettings}, {"calls", 0, dumpCalls},     {"worm", 0, dumpWorm},
 };
 
 void writeFile(const std::string& path, const Dump& row, const Session& session,

@@ -11,8 +11,10 @@
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "errors.h"
+#include "names.h"
 #include "panels/sliders.h"
 #include "platform/dispatch.h"
+#include "platform/window_life.h"
 #include "values.h"
 
 namespace ombrelia::scenario {
@@ -119,11 +121,16 @@ void assign(Session& session, const Fields& fields) {
     assignValue(session, fields[0], fields[1]);
 }
 
+void show(Session& /*session*/, const Fields& fields) {
+    Window& window = windowNamed(fields[0]);
+    runHandler([&window] { showWindow(window); });
+}
+
 constexpr Command kCommands[] = {
     {"run", 1, 1, Acts::OnEditor, run},          {"slider", 2, 2, Acts::OnEditor, setSlider},
     {"button", 2, 2, Acts::OnEditor, setButton}, {"fill", 1, 1, Acts::OnEditor, fill},
     {"cell", 3, 3, Acts::OnEditor, setCell},     {"heights", 1, 1, Acts::OnEditor, readHeights},
-    {"assign", 2, 2, Acts::OnEditor, assign},
+    {"assign", 2, 2, Acts::OnEditor, assign},    {"show", 1, 1, Acts::OnEditor, show},
 };
 
 }  // namespace

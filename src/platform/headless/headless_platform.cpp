@@ -181,6 +181,10 @@ void HeadlessPlatform::refresh(Control& control) {
     }
 }
 
+void HeadlessPlatform::sleep(int milliseconds) {
+    log("sleep " + std::to_string(milliseconds));
+}
+
 void HeadlessPlatform::yield() {
     ++Yields;
     if (OnYield) {

@@ -108,6 +108,7 @@ class HeadlessPlatform : public Dialogs,
     void unloaded(Window& window) override;
     void minimize(Window& window) override;
     void refresh(Control& control) override;
+    void sleep(int milliseconds) override;
     void yield() override;
     void beginWindowMove(Window& window) override;
     void beginDrag(Control& source) override;

@@ -102,7 +102,7 @@ class ControlAccess : public QAccessibleInterface,
         if (!isValid()) {
             return {};
         }
-        const QRect device = visibleDeviceRect(control_, view_->desktop().scale());
+        const QRect device = visibleDeviceRect(control_, view_->scale());
         const double ratio = view_->devicePixelRatioF();
         const QRectF logical(device.x() / ratio, device.y() / ratio, device.width() / ratio,
                              device.height() / ratio);

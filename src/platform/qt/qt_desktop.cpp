@@ -27,6 +27,11 @@ constexpr qint64 kYieldNanoseconds = 8'000'000;
 // How long a window that says "please wait" is waited for before the work begins.
 constexpr int kFirstPictureMilliseconds = 60;
 
+constexpr qint64 kFrameMilliseconds = 16;
+
+// What the system's frame adds to a window's height, at most; logical pixels.
+constexpr double kFrameHeight = 40;
+
 constexpr double kScales[] = {4, 3, 2.5, 2, 1.75, 1.5, 1.25, 1};
 
 // Painting can leave the upper vector registers in use, which slows later arithmetic down.
@@ -71,6 +76,20 @@ void QtDesktop::chooseScale(double widthUnits, double heightUnits) {
             return;
         }
     }
+}
+
+double QtDesktop::scaleOf(const Window& window) const {
+    if (!window.HasFrame) {
+        return scale_;
+    }
+    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    const double free = (freeArea().height() - kFrameHeight) * ratio;
+    for (const double candidate : kScales) {
+        if (candidate <= scale_ && window.Height * candidate <= free) {
+            return candidate;
+        }
+    }
+    return kScales[std::size(kScales) - 1];
 }
 
 double QtDesktop::dockedWidth(const Window& window) const {
@@ -157,11 +176,16 @@ void QtDesktop::painted(Window& /*window*/) {
 }
 
 WindowView* QtDesktop::dialogParent() const {
-    if (auto* active = dynamic_cast<WindowView*>(QApplication::activeWindow())) {
+    const auto canBe = [](const WindowView& view) {
+        // A game can end under its dialog, and would take it along.
+        return view.isVisible() && view.window().DockedTo == nullptr && !view.window().StandsAlone;
+    };
+    auto* active = dynamic_cast<WindowView*>(QApplication::activeWindow());
+    if (active != nullptr && canBe(*active)) {
         return active;
     }
     for (const auto& [window, view] : views_) {
-        if (view->isVisible() && window->DockedTo == nullptr) {
+        if (canBe(*view)) {
             return view;
         }
     }
@@ -226,20 +250,36 @@ void QtDesktop::minimize(Window& window) {
 }
 
 void QtDesktop::refresh(Control& control) {
-    if (control.Kind == ControlKind::Window) {
-        waitForFirstPicture(viewOf(static_cast<Window&>(control)));
+    if (control.Kind != ControlKind::Window) {
+        return;
     }
+    // One picture in a display frame, so that a fade can be seen.
+    if (sinceRefresh_.isValid()) {
+        waitUntil(hasPutOff, kFrameMilliseconds - sinceRefresh_.elapsed());
+    }
+    sinceRefresh_.start();
+    WindowView& view = viewOf(static_cast<Window&>(control));
+    view.sync();
+    waitUntil([&view] { return view.windowHandle()->isExposed() || view.isMinimized(); },
+              kFirstPictureMilliseconds);
+    view.repaint();
 }
 
-void QtDesktop::waitForFirstPicture(WindowView& view) {
-    view.sync();
+// Whoever wants to close a window does not wait.
+void QtDesktop::sleep(int milliseconds) {
+    sync();
+    waitUntil(hasPutOff, milliseconds);
+    settleRegisters();
+}
+
+void QtDesktop::waitUntil(const std::function<bool()>& isDone, qint64 milliseconds) {
+    const InputKeeper::Hold hold(inputKeeper_);
     QElapsedTimer waited;
     waited.start();
-    while (!view.windowHandle()->isExposed() && waited.elapsed() < kFirstPictureMilliseconds) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    while (!isDone() && waited.elapsed() < milliseconds) {
+        QCoreApplication::processEvents();
         QThread::msleep(1);
     }
-    view.repaint();
 }
 
 void QtDesktop::yield() {

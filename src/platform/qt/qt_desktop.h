@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 
+#include "platform/qt/input_keeper.h"
 #include "platform/qt/skin.h"
 #include "platform/services.h"
 
@@ -23,6 +24,9 @@ class QtDesktop : public Desktop {
 
     // Device pixels to a unit.
     double scale() const { return scale_; }
+
+    // The same for one window: smaller where it would not fit the screen with its frame.
+    double scaleOf(const Window& window) const;
 
     Skin& skin() { return skin_; }
 
@@ -46,6 +50,9 @@ class QtDesktop : public Desktop {
     // Starts the timers that rest because nothing had changed.
     void wakeTimers();
 
+    // Whether a handler waits in a refresh or sleep, during which no timer fires.
+    bool isWaiting() const { return inputKeeper_.isHolding(); }
+
     // A window was painted.
     void painted(Window& window);
 
@@ -55,7 +62,8 @@ class QtDesktop : public Desktop {
     // Called once, when the first window has been painted.
     std::function<void()> OnFirstPaint;
 
-    // The view of the window that is active, or any that is seen; for dialogs. May be null.
+    // The view of the window that is active, or any that is seen, but never one that stands alone;
+    // for dialogs. May be null.
     WindowView* dialogParent() const;
 
     void shown(Window& window) override;
@@ -63,6 +71,7 @@ class QtDesktop : public Desktop {
     void unloaded(Window& window) override;
     void minimize(Window& window) override;
     void refresh(Control& control) override;
+    void sleep(int milliseconds) override;
     void yield() override;
     void beginWindowMove(Window& window) override;
     void beginDrag(Control& source) override;
@@ -77,12 +86,14 @@ class QtDesktop : public Desktop {
     void handled();
     bool runOrEnd(const std::function<void()>& event);
     void showDocked(Window& host);
-    void waitForFirstPicture(WindowView& view);
+    void waitUntil(const std::function<bool()>& isDone, qint64 milliseconds);
 
     Skin skin_;
     double scale_ = 1;
     std::map<Window*, WindowView*> views_;
     QElapsedTimer sinceEvents_;
+    QElapsedTimer sinceRefresh_;
+    InputKeeper inputKeeper_;
     int yieldMilliseconds_ = 0;
 };
 

@@ -11,6 +11,7 @@
 
 #include "platform/dispatch.h"
 #include "platform/qt/accessibility.h"
+#include "platform/qt/key_mapping.h"
 #include "platform/qt/list_menu.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_painter.h"
@@ -51,13 +52,19 @@ Qt::WindowFlags flagsOf(const Window& window) {
     if (window.DockedTo != nullptr) {
         return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
     }
+    if (window.HasFrame) {
+        return Qt::Window;
+    }
     return Qt::Window | Qt::FramelessWindowHint;
 }
 
 }  // namespace
 
 WindowView::WindowView(Window& window, QtDesktop& desktop)
-    : QWidget(nullptr, flagsOf(window)), window_(window), desktop_(desktop) {
+    : QWidget(nullptr, flagsOf(window)),
+      window_(window),
+      desktop_(desktop),
+      scale_(desktop.scaleOf(window)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     if (window.DockedTo != nullptr) {
@@ -68,7 +75,7 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
 }
 
 void WindowView::place() {
-    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const double logicalPerUnit = scale_ / devicePixelRatioF();
     setFixedSize(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
                  static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
     if (window_.DockedTo != nullptr) {
@@ -90,7 +97,7 @@ void WindowView::place() {
 }
 
 bool WindowView::followRecord() {
-    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const double logicalPerUnit = scale_ / devicePixelRatioF();
     const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
                         static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
     if (target == pos()) {
@@ -102,9 +109,9 @@ bool WindowView::followRecord() {
 
 WindowView::Shown WindowView::lookOf(const Control& control) const {
     Shown look;
-    look.rect = visibleDeviceRect(control, desktop_.scale());
+    look.rect = visibleDeviceRect(control, scale_);
     const bool isLine = control.Kind == ControlKind::Line;
-    look.corner = deviceRect(isLine ? *control.Parent : control, desktop_.scale()).topLeft();
+    look.corner = deviceRect(isLine ? *control.Parent : control, scale_).topLeft();
     look.face = control.Face;
     look.caption = control.Caption;
     if (control.Kind == ControlKind::Label) {
@@ -129,6 +136,9 @@ QRect WindowView::logicalRect(const QRect& device) const {
 }
 
 bool WindowView::sync() {
+    if (const QString title = QString::fromStdString(window_.Caption); title != windowTitle()) {
+        setWindowTitle(title);
+    }
     bool isDifferent = window_.DockedTo != nullptr && followRecord();
     if (shown_.size() != window_.Controls.size()) {
         shown_.assign(window_.Controls.size(), {});
@@ -167,7 +177,7 @@ void WindowView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     painter.scale(1 / ratio, 1 / ratio);
-    const PaintTools tools{desktop_.skin(), desktop_.scale()};
+    const PaintTools tools{desktop_.skin(), scale_};
     for (const QRect& part : event->region()) {
         const QRect device =
             QRectF(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio)
@@ -178,12 +188,12 @@ void WindowView::paintEvent(QPaintEvent* event) {
 }
 
 QPointF WindowView::unitsOf(const QPointF& logical) const {
-    return logical * (devicePixelRatioF() / desktop_.scale());
+    return logical * (devicePixelRatioF() / scale_);
 }
 
 // The unit in which the middle of the device pixel lies.
 QPointF WindowView::wholeUnits(const QPointF& units) const {
-    const double middle = 0.5 / desktop_.scale();
+    const double middle = 0.5 / scale_;
     return {std::floor(units.x() + middle), std::floor(units.y() + middle)};
 }
 
@@ -217,9 +227,9 @@ void WindowView::press(QMouseEvent* event) {
 }
 
 void WindowView::openList(ListBox& list) {
-    const QRect place = deviceRect(list, desktop_.scale());
+    const QRect place = deviceRect(list, scale_);
     const QPoint corner = mapToGlobal(logicalRect(place).bottomLeft() + QPoint(0, 1));
-    openListMenu(*this, list, corner, place.width(), desktop_.scale(), [this, &list](int entry) {
+    openListMenu(*this, list, corner, place.width(), scale_, [this, &list](int entry) {
         if (!window_.Loaded || entry >= static_cast<int>(list.List.size()) ||
             !ombrelia::isEnabled(list)) {
             return;
@@ -232,7 +242,7 @@ void WindowView::openList(ListBox& list) {
 
 void WindowView::beginDrag(Control& source) {
     dragged_ = &source;
-    const QRect place = deviceRect(source, desktop_.scale());
+    const QRect place = deviceRect(source, scale_);
     QPixmap icon =
         QPixmap::fromImage(desktop_.skin().face(source.Face, place.width(), place.height()));
     icon.setDevicePixelRatio(devicePixelRatioF());
@@ -360,13 +370,26 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 void WindowView::moveEvent(QMoveEvent* /*event*/) {
-    const double logicalPerUnit = desktop_.scale() / devicePixelRatioF();
+    const double logicalPerUnit = scale_ / devicePixelRatioF();
     window_.Left = pos().x() / logicalPerUnit;
     window_.Top = pos().y() / logicalPerUnit;
     desktop_.wakeTimers();
 }
 
+void WindowView::keyPressEvent(QKeyEvent* event) {
+    if (window_.handlerOf(Event::KeyDown) == nullptr) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    EventArgs args;
+    args.KeyCode = virtualKeyOf(*event);
+    desktop_.run([&] { deliver(window_, Event::KeyDown, args); });
+}
+
 void WindowView::timerEvent(QTimerEvent* event) {
+    if (desktop_.isWaiting()) {
+        return;
+    }
     for (auto& [timer, system] : timers_) {
         if (system.basic.timerId() == event->timerId()) {
             tick(*timer, system);

@@ -22,6 +22,9 @@ class WindowView : public QWidget {
     const Window& window() const { return window_; }
     QtDesktop& desktop() { return desktop_; }
 
+    // Device pixels to a unit of this window.
+    double scale() const { return scale_; }
+
     // A press and release in the middle of a control, without the mouse.
     void pressControl(Control& control);
 
@@ -55,6 +58,7 @@ class WindowView : public QWidget {
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -90,6 +94,7 @@ class WindowView : public QWidget {
 
     Window& window_;
     QtDesktop& desktop_;
+    double scale_;
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
 

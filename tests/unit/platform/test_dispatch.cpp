@@ -285,6 +285,27 @@ TEST_F(Dispatch, a_window_closed_inside_a_yield_goes_when_the_handler_has_return
     EXPECT_FALSE(window.Loaded);
 }
 
+TEST_F(Dispatch, windows_that_stand_alone_close_later_too_and_stop_nothing) {
+    Window other;
+    setStopRequest([] { events.push_back("stop asked for"); });
+    window.StandsAlone = true;
+    other.StandsAlone = true;
+    loadWindow(window);
+    loadWindow(other);
+    runHandler([&] {
+        EXPECT_FALSE(hasPutOff());
+        deliverClose(window);
+        deliverClose(other);
+        deliverClose(window);
+        EXPECT_TRUE(hasPutOff());
+        events.push_back(window.Loaded && other.Loaded ? "still loaded" : "gone");
+    });
+    EXPECT_EQ(events, Log{"still loaded"});
+    EXPECT_FALSE(window.Loaded);
+    EXPECT_FALSE(other.Loaded);
+    EXPECT_FALSE(hasPutOff());
+}
+
 TEST_F(Dispatch, a_window_closed_at_rest_goes_at_once) {
     loadWindow(window);
     deliverClose(window);

@@ -1,0 +1,61 @@
+#include "games/worm/worm_state.h"
+
+namespace ombrelia {
+
+std::int16_t CellSize = 0;
+std::int16_t BoardSize = 0;
+std::int16_t Lives = 0;
+std::int16_t Level = 0;
+std::int16_t ItemIndex = 0;
+std::int16_t HeadX = 0;
+std::int16_t HeadY = 0;
+std::int16_t Heading = 0;
+std::int16_t WormLength = 0;
+std::int16_t LastTurnX = 0;
+std::int16_t LastTurnY = 0;
+CheckedArray<std::int16_t, 1, kLastTrail> TrailX;
+CheckedArray<std::int16_t, 1, kLastTrail> TrailY;
+std::int16_t ColorR = 0;
+std::int16_t ColorG = 0;
+std::int16_t ColorB = 0;
+std::int16_t DeltaR = 0;
+std::int16_t DeltaG = 0;
+std::int16_t DeltaB = 0;
+CheckedGrid<std::int16_t, kLastBoard> Board;
+CheckedGrid<std::int16_t, kLastBoard> NextBoard;
+
+namespace {
+
+constexpr std::int16_t kCellPixels = 30;
+constexpr std::int16_t kBoardCells = 16;
+constexpr std::int16_t kFirstLives = 5;
+
+}  // namespace
+
+void resetWormState() {
+    for (const ValueRow& row : wormValues()) {
+        row.reset();
+    }
+    CellSize = kCellPixels;
+    BoardSize = kBoardCells;
+    Lives = kFirstLives;
+    Level = 1;
+}
+
+std::vector<ValueRow> wormValues() {
+    return {
+        valueRow("CellSize", CellSize),     valueRow("BoardSize", BoardSize),
+        valueRow("Lives", Lives),           valueRow("Level", Level),
+        valueRow("ItemIndex", ItemIndex),   valueRow("HeadX", HeadX),
+        valueRow("HeadY", HeadY),           valueRow("Heading", Heading),
+        valueRow("WormLength", WormLength), valueRow("LastTurnX", LastTurnX),
+        valueRow("LastTurnY", LastTurnY),   arrayRow("TrailX", TrailX),
+        arrayRow("TrailY", TrailY),         valueRow("ColorR", ColorR),
+        valueRow("ColorG", ColorG),         valueRow("ColorB", ColorB),
+        valueRow("DeltaR", DeltaR),         valueRow("DeltaG", DeltaG),
+        valueRow("DeltaB", DeltaB),         gridRow("Board", Board),
+        gridRow("NextBoard", NextBoard),
+    };
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,122 @@
+// The worm game on the screen: real keys, the fades that block the event loop, closing.
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include "core/objects.h"
+#include "core/windows/form2.h"
+#include "games/worm/worm.h"
+#include "games/worm/worm_state.h"
+#include "platform/dispatch.h"
+#include "platform/services.h"
+#include "stories.h"
+
+namespace ombrelia {
+
+namespace {
+
+// The game over an editor whose map has been marked.
+bool openGame(ScreenDriver& driver) {
+    if (!openEditor(driver, button::kSizeSmall)) {
+        return false;
+    }
+    driver.inProgram([] {
+        HeightMap.fill(77);
+        runHandler(openWormGame);
+    });
+    return driver.waitForWindow(Form2);
+}
+
+void putFoodAway() {
+    Form2.Label2.Left = 14 * CellSize;
+    Form2.Label2.Top = 14 * CellSize;
+}
+
+// The head stands before the right wall; the next tick costs a life. True while that life fades.
+bool runIntoTheWall(ScreenDriver& driver) {
+    driver.inProgram([] {
+        putFoodAway();
+        HeadX = 15;
+        HeadY = 8;
+        Heading = kHeadRight;
+    });
+    return driver.waitFor(isHandling);
+}
+
+}  // namespace
+
+TEST(WormWindow, real_keys_steer_the_worm_and_the_map_stays) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openGame(driver));
+        driver.inProgram(putFoodAway);
+        ASSERT_TRUE(driver.waitFor([] { return HeadX >= 5; }));
+        driver.key("Down");
+        EXPECT_TRUE(driver.waitFor([] { return HeadY >= 5; }));
+        driver.key("Right");
+        EXPECT_TRUE(driver.waitFor([] { return Heading == kHeadRight; }));
+        driver.rest(200);
+        driver.key("Up");
+        EXPECT_TRUE(driver.waitFor([] { return Heading == kHeadUp; }));
+        driver.inProgram([] {
+            EXPECT_EQ(Lives, 5);
+            EXPECT_EQ(Form2.Caption, "Lives: 5   Level: 1");
+            for (int y = 0; y <= MapSize; ++y) {
+                for (int x = 0; x <= MapSize; ++x) {
+                    ASSERT_EQ(HeightMap(x, y), 77);
+                }
+            }
+        });
+    });
+}
+
+TEST(WormWindow, a_key_during_a_fade_comes_after_it) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openGame(driver));
+        ASSERT_TRUE(runIntoTheWall(driver));
+        driver.key("Down");
+        driver.inProgram([] {
+            EXPECT_TRUE(isHandling()) << "the fade was over too soon to prove anything";
+            EXPECT_EQ(Lives, 5);
+            EXPECT_EQ(Heading, kHeadRight);
+        });
+        EXPECT_TRUE(driver.waitFor([] { return Lives == 4 && Heading == kHeadDown; }));
+    });
+}
+
+TEST(WormWindow, a_close_during_a_fade_cuts_it_short) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openGame(driver));
+        ASSERT_TRUE(runIntoTheWall(driver));
+        driver.key("alt+F4");
+        driver.inProgram([] { EXPECT_FALSE(Form2.Loaded); });
+        driver.inProgram([] {
+            EXPECT_EQ(Lives, 4);
+            EXPECT_TRUE(Form1.Loaded);
+            runHandler(openWormGame);
+        });
+        EXPECT_TRUE(driver.waitForWindow(Form2));
+        driver.inProgram([] { EXPECT_EQ(Lives, 5); });
+    });
+}
+
+TEST(WormWindow, a_game_that_ends_under_a_dialog_leaves_it_alone) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openGame(driver));
+        driver.inProgram([] {
+            Lives = 1;
+            putFoodAway();
+            EXPECT_EQ(QApplication::activeWindow()->windowTitle().toStdString(), Form2.Caption);
+            QTimer::singleShot(0, [] {
+                runHandler([] { services().dialogs->message("Wait.", kErrorBox, "A message"); });
+            });
+        });
+        ASSERT_TRUE(driver.waitForDialog("A message"));
+        EXPECT_TRUE(driver.waitFor([] { return !Form2.Loaded; }));
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([] { return QApplication::activeModalWidget() == nullptr; }));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Loaded && !isHandling(); }));
+    });
+}
+
+}  // namespace ombrelia
