@@ -9,12 +9,16 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/form2.h"
+#include "core/windows/help_box.h"
 #include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_state.h"
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
+#include "panels/color_editor.h"
+#include "panels/help_box.h"
+#include "panels/hints.h"
 #include "platform/dispatch.h"
 #include "terrain/fractal/fractal_state.h"
 
@@ -57,6 +61,7 @@ const Binding kBindings[] = {
     {&Form1, "", Event::Click, Ground_Click},
     {&Form1, "Timer1", Event::Timer, Form1_Timer},
     {&Form1, "Label11", Event::MouseDown, Title_MouseDown},
+    {&Form1, "Label11", Event::MouseMove, Title_MouseMove},
     {&Form1, "Label32", Event::Click, Label32_Click},
     {&Form1, "Label32", Event::DragOver, Label32_DragOver},
     {&Form1, "Label32", Event::DragDrop, Label32_DragDrop},
@@ -70,7 +75,7 @@ const Binding kBindings[] = {
     {&Form1, "TwoFrame", Event::MouseMove, Ground_MouseMove},
     {&Form1, "Label1", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "Label4", Event::MouseMove, QuietPart_MouseMove},
-    {&Form1, "ZoomView", Event::MouseMove, QuietPart_MouseMove},
+    {&Form1, "ZoomView", Event::MouseMove, ZoomView_MouseMove},
     {&Form1, "MapView", Event::MouseDown, MapView_MouseDown},
     {&Form1, "MapView", Event::MouseMove, MapView_MouseMove},
     {&Form1, "MapView", Event::MouseUp, MapView_MouseUp},
@@ -78,6 +83,8 @@ const Binding kBindings[] = {
     {&Form1, "Picker", Event::MouseDown, Picker_MouseDown},
     {&Form1, "Picker", Event::MouseMove, Picker_MouseMove},
     {&Form1, "Picker", Event::MouseUp, Picker_MouseUp},
+    {&Form1, "PickedColor", Event::MouseMove, PickedColor_MouseMove},
+    {&Form1, "Picture3", Event::MouseMove, PickedColor_MouseMove},
     {&Form1, "VertScroller", Event::MouseDown, VertScroller_MouseDown},
     {&Form1, "VertScroller", Event::MouseMove, VertScroller_MouseMove},
     {&Form1, "VertScroller", Event::AskValue, Slider_AskValue},
@@ -91,13 +98,54 @@ const Binding kBindings[] = {
     {&Form1, "ScrollUp", Event::MouseUp, Arrow_MouseUp},
     {&Form1, "ScrollDown", Event::MouseDown, Arrow_MouseDown},
     {&Form1, "ScrollDown", Event::MouseUp, Arrow_MouseUp},
+    {&Form1, "ScrollUp", Event::MouseMove, Arrow_MouseMove},
+    {&Form1, "ScrollDown", Event::MouseMove, Arrow_MouseMove},
+    {&Form1, "Filler", Event::MouseMove, PlainPart_MouseMove},
     {&Form1, "OptFrame", Event::MouseDown, OptFrame_MouseDown},
     {&Form1, "OptFrame", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "OptFrame", Event::MouseUp, OptFrame_MouseUp},
     {&Form1, "Picture1", Event::MouseDown, OptFrame_MouseDown},
     {&Form1, "Picture1", Event::MouseMove, OptFrame_MouseMove},
     {&Form1, "Picture1", Event::MouseUp, OptFrame_MouseUp},
+    {&Form1, "Range", Event::MouseDown, Range_MouseDown},
+    {&Form1, "Range", Event::MouseMove, Range_MouseMove},
+    {&Form1, "Range", Event::MouseUp, Range_MouseUp},
+    {&Form1, "Rng1", Event::MouseMove, Rng1_MouseMove},
+    {&Form1, "Rng1", Event::Click, Rng1_Click},
     {&Form1, "Combo1", Event::Click, Combo1_Click},
+    {&Form1, "Combo1", Event::KeyDown, Combo1_KeyDown},
+    {&Form1, "Combo1", Event::MouseMove, PlainPart_MouseMove},
+
+    {&HelpFrm, "HelpLbl", Event::MouseMove, HelpLbl_MouseMove},
+    {&HelpFrm, "HelpLbl", Event::DblClick, HelpLbl_DblClick},
+
+    {&HelpBox, "", Event::Load, HelpBox_Load},
+    {&HelpBox, "", Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, "Topic", Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, "Picture1", Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, "Timer1", Event::Timer, HelpBox_Timer},
+    {&HelpBox, "Label14", Event::MouseDown, HelpBox_TitleDown},
+    {&HelpBox, "Label13", Event::Click, HelpBox_WebClick},
+    {&HelpBox, "NTool", Event::MouseDown, HelpBox_ButtonDown},
+    {&HelpBox, "NTool", Event::MouseMove, HelpBox_ButtonMove},
+    {&HelpBox, "NTool", Event::MouseUp, HelpBox_ButtonUp},
+    {&HelpBox, "NTool", Event::Click, HelpBox_ButtonClick},
+    {&HelpBox, "LTool", Event::MouseDown, HelpBox_ButtonDown},
+    {&HelpBox, "LTool", Event::MouseMove, HelpBox_ButtonMove},
+    {&HelpBox, "LTool", Event::MouseUp, HelpBox_ButtonUp},
+    {&HelpBox, "LTool", Event::Click, HelpBox_ButtonClick},
+    {&HelpBox, "LinkLbl", Event::Click, HelpBox_LinkClick},
+    {&HelpBox, "ContLbl", Event::Click, HelpBox_ContentsClick},
+    {&HelpBox, "Label41", Event::DblClick, Label41_DblClick},
+    {&HelpBox, "ToolName", Event::Click, HelpBox_ToolClick},
+    {&HelpBox, "ToolPic", Event::Click, HelpBox_ToolClick},
+    {&HelpBox, "Scroller", Event::MouseDown, HelpBox_ScrollerDown},
+    {&HelpBox, "Scroller", Event::MouseMove, HelpBox_ScrollerMove},
+    {&HelpBox, "Scroller", Event::MouseUp, HelpBox_ScrollerUp},
+    {&HelpBox, "ScrollUp", Event::MouseDown, HelpBox_ArrowDown},
+    {&HelpBox, "ScrollUp", Event::MouseUp, HelpBox_ArrowUp},
+    {&HelpBox, "ScrollDown", Event::MouseDown, HelpBox_ArrowDown},
+    {&HelpBox, "ScrollDown", Event::MouseUp, HelpBox_ArrowUp},
 
     {&frm3DMaze, "", Event::Load, frm3DMaze_Load},
     {&frm3DMaze, "", Event::Unload, frm3DMaze_Unload},
@@ -133,8 +181,8 @@ void bind(const Binding& row) {
 }  // namespace
 
 const std::vector<Window*>& allWindows() {
-    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3, &Form1,
-                                                 &HelpFrm,   &frm3DMaze,  &Form2};
+    static const std::vector<Window*> windows = {&frmSplash, &SizeSelect, &Form3,     &Form1,
+                                                 &HelpFrm,   &HelpBox,    &frm3DMaze, &Form2};
     return windows;
 }
 

@@ -78,6 +78,10 @@ inline constexpr int kSizeMedium = 82;
 inline constexpr int kSizeLarge = 83;
 inline constexpr int kSizeImport = 84;
 inline constexpr int kSizeClose = 85;
+inline constexpr int kHelpContents = 90;
+inline constexpr int kHelpAbout = 96;
+inline constexpr int kHelpBack = 97;
+inline constexpr int kHelpClose = 98;
 
 // Records 0..kLastOfEditor belong to the editor window.
 inline constexpr int kLastOfEditor = 74;

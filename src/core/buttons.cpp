@@ -3,6 +3,7 @@
 #include "core/button_numbers.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
 
 namespace ombrelia {
@@ -41,6 +42,19 @@ void placeOverlay(Control& overlay, const Image& face, const FaceSet& set, int s
     overlay.Top = face.Top + set.overlayTop + pressed;
 }
 
+// The variant of the windows that know kinds 1 and 2 only.
+void drawPlainButton(ControlArray<Image>& faces, ControlArray<Label>& texts, int i) {
+    const ButtonRecord& record = OptionStates(i);
+    if (record.Kind != kind::kStand && record.Kind != kind::kClose) {
+        return;
+    }
+    Image& face = faces(i);
+    const FaceSet* set = setFace(face, record);
+    if (record.Kind == kind::kStand) {
+        placeOverlay(texts(i), face, *set, record.State);
+    }
+}
+
 }  // namespace
 
 void DrawButton(int i) {
@@ -61,15 +75,11 @@ void DrawButton(int i) {
 }
 
 void DrawSizeButton(int i) {
-    const ButtonRecord& record = OptionStates(i);
-    if (record.Kind != kind::kStand && record.Kind != kind::kClose) {
-        return;
-    }
-    Image& face = SizeSelect.NTool(i);
-    const FaceSet* set = setFace(face, record);
-    if (record.Kind == kind::kStand) {
-        placeOverlay(SizeSelect.LTool(i), face, *set, record.State);
-    }
+    drawPlainButton(SizeSelect.NTool, SizeSelect.LTool, i);
+}
+
+void DrawHelpButton(int i) {
+    drawPlainButton(HelpBox.NTool, HelpBox.LTool, i);
 }
 
 bool isOn(int i) {

@@ -12,6 +12,9 @@ void DrawButton(int i);
 // The variant of the size dialog, for its kinds 1 and 2.
 void DrawSizeButton(int i);
 
+// The same of the help window; a button of another window's kinds is passed over.
+void DrawHelpButton(int i);
+
 // Whether button i is on (State 2).
 bool isOn(int i);
 

@@ -60,8 +60,11 @@ void ListColorSets() {
         }
     }
     std::sort(names.begin(), names.end());
-    Form1.Combo1.List.assign(1, kCurrentColors);
-    Form1.Combo1.List.insert(Form1.Combo1.List.end(), names.begin(), names.end());
+    ListBox& list = Form1.Combo1;
+    list.ListIndex = -1;
+    list.Caption.clear();
+    list.List.assign(1, kCurrentColors);
+    list.List.insert(list.List.end(), names.begin(), names.end());
 }
 
 }  // namespace ombrelia

@@ -51,7 +51,19 @@ extern std::int16_t StrokeCount;  // next free subscript, 0..600; gestures
 extern std::int16_t PanelGrabY;          // strip units, pointer in a frame drag; option frames
 extern std::int16_t ThumbGrab;           // units, pointer in a thumb drag; sliders
 extern std::int16_t SliderDragState;     // 2 strip thumb held, 1 range marker held; sliders
+extern std::int16_t RangeGrabX;          // units, pointer in a drag of a range marker; colour page
 extern std::int16_t SuppressComboClick;  // 1: the next change of Combo1 is the program's own
+
+// Seam for tool pointers; nothing writes it.
+extern std::int16_t CurrentCursorId;
+
+// The help window.
+extern std::int16_t CurrentTopic;                           // page showing; GotoTopic
+extern CheckedArray<std::int16_t, 0, 10> HelpGroupCurrent;  // its button on in each group
+extern std::int16_t HelpHoverTool;                          // its button that last had the pointer
+extern std::int16_t HelpMouseState;       // kGestureScrollUp or Down while its arrow is held
+extern std::int16_t HelpSliderDragState;  // 2 while its thumb is held
+extern std::int16_t HelpThumbGrab;        // units, pointer in a drag of its thumb
 
 // Colours of the title text.
 extern Color TitleActiveColor;    // Form1's load

@@ -52,7 +52,15 @@ std::int16_t StrokeCount = 0;
 std::int16_t PanelGrabY = 0;
 std::int16_t ThumbGrab = 0;
 std::int16_t SliderDragState = 0;
+std::int16_t RangeGrabX = 0;
 std::int16_t SuppressComboClick = 0;
+std::int16_t CurrentCursorId = 0;
+std::int16_t CurrentTopic = 0;
+CheckedArray<std::int16_t, 0, 10> HelpGroupCurrent;
+std::int16_t HelpHoverTool = 0;
+std::int16_t HelpMouseState = 0;
+std::int16_t HelpSliderDragState = 0;
+std::int16_t HelpThumbGrab = 0;
 Color TitleActiveColor = 0;
 Color TitleInactiveColor = 0;
 

@@ -116,6 +116,8 @@ struct Control {
 
 struct Image : Control {
     Image() : Control(ControlKind::Image) {}
+    // The mouse is told in whole units, as at scale 1: for a part whose place is a whole number.
+    bool InWholeUnits = false;
 };
 
 enum class TextAlign { Left, Center, Right };

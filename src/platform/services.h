@@ -96,6 +96,16 @@ struct DisplayColors {
     int fixedColors = -1;  // colours that no palette changes; -1: there is no palette
 };
 
+// Short sounds of files that stand beside the program.
+class Sound {
+  public:
+    virtual ~Sound() = default;
+    // Path of a file beside the program.
+    virtual std::string programFile(const std::string& name) = 0;
+    // Starts to play the file and returns at once; silence if it cannot be played.
+    virtual void play(const std::string& path) = 0;
+};
+
 // Windows on the screen, the event loop, and what hangs on them.
 class Desktop {
   public:
@@ -140,6 +150,7 @@ struct Services {
     Desktop* desktop = nullptr;
     FailureReport* failures = nullptr;
     PictureLoader* pictures = nullptr;
+    Sound* sound = nullptr;
 };
 
 Services& services();

@@ -68,10 +68,35 @@ struct DialogAnswer {
     const char* dialog;
     void (*queue)(Session& session, const std::string& answer);
 };
+void answerInput(Session& session, const std::string& text) {
+    session.platform.InputAnswers.push_back(text);
+}
+
 constexpr DialogAnswer kDialogAnswers[] = {
-    {"save", answerSave}, {"open", answerOpen}, {"message", answerMessage}};
+    {"save", answerSave}, {"open", answerOpen}, {"message", answerMessage}, {"input", answerInput}};
+
+// "R G B" or "cancel".
+void answerColor(Session& session, const Fields& fields) {
+    std::optional<Color> answer;
+    if (fields.size() == 4) {
+        const auto part = [&](std::size_t n) {
+            return static_cast<unsigned>(wholeNumber(fields[n], 0, 255));
+        };
+        answer = rgb(part(1), part(2), part(3));
+    } else if (fields.size() != 2 || fields[1] != "cancel") {
+        throw LineError{"a colour is answered by three numbers or by cancel"};
+    }
+    session.platform.ColorAnswers.push_back(answer);
+}
 
 void queueAnswer(Session& session, const Fields& fields) {
+    if (fields[0] == "color") {
+        answerColor(session, fields);
+        return;
+    }
+    if (fields.size() != 2) {
+        throw LineError{"a dialog other than color has one answer"};
+    }
     const auto* row = std::find_if(std::begin(kDialogAnswers), std::end(kDialogAnswers),
                                    [&](const DialogAnswer& r) { return fields[0] == r.dialog; });
     if (row == std::end(kDialogAnswers)) {
@@ -86,7 +111,7 @@ constexpr Command kCommands[] = {
     {"clock", 1, 1, Acts::Anywhere, setClock},
     {"clock-step", 1, 1, Acts::Anywhere, setClockStep},
     {"setting", 3, 3, Acts::Anywhere, setSetting},
-    {"answer", 2, 2, Acts::Anywhere, queueAnswer},
+    {"answer", 2, 4, Acts::Anywhere, queueAnswer},
     {"file", 1, 2, Acts::Anywhere, tellOfFile},
 };
 

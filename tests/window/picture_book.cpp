@@ -6,6 +6,9 @@
 
 #include "core/objects.h"
 #include "core/progress.h"
+#include "core/windows/help_box.h"
+#include "panels/help_box.h"
+#include "panels/option_frames.h"
 #include "panels/sliders.h"
 #include "platform/window_life.h"
 #include "stories.h"
@@ -13,6 +16,8 @@
 namespace ombrelia {
 
 namespace {
+
+constexpr int kColorFrame = 14;
 
 struct Album {
     ScreenDriver& driver;
@@ -65,6 +70,32 @@ void showPerspective(const Album& album) {
     driver.rest();
 }
 
+void showColorPage(const Album& album) {
+    ScreenDriver& driver = album.driver;
+    driver.inProgram([] { ScrollToFrame(kColorFrame); });
+    driver.moveTo(Form1.Range(3), 5, 4);
+    album.add("colors", Form1);
+    album.add("hint", HelpFrm);
+}
+
+void showHelp(const Album& album) {
+    ScreenDriver& driver = album.driver;
+    driver.click(Form1.NTool(button::kHelp + kOverlayOffset));
+    driver.waitForWindow(HelpBox);
+    const auto addPage = [&](const char* name, int page) {
+        driver.inProgram([page] { GotoTopic(page); });
+        driver.moveTo(HelpBox, 100 + page % 50, 12);
+        album.add(name, HelpBox);
+    };
+    addPage("help_contents", kContentsPage);
+    addPage("help_step", 200);
+    addPage("help_icons", kIconsPage);
+    addPage("help_mountain", 408);
+    addPage("help_about", kAboutPage);
+    driver.click(HelpBox.NTool(button::kHelpClose));
+    driver.rest();
+}
+
 void tellStory(const Album& album) {
     ScreenDriver& driver = album.driver;
     driver.waitForWindow(frmSplash);
@@ -76,7 +107,6 @@ void tellStory(const Album& album) {
     showWaitWindow(album);
     driver.click(SizeSelect.LTool(button::kSizeLarge));
     driver.waitForWindow(Form1);
-    album.add("hint", HelpFrm);
     driver.click(Form1.NTool(button::kFractal + kOverlayOffset));
     driver.moveTo(Form1, 5, 350);
     album.add("fractal", Form1);
@@ -95,6 +125,8 @@ void tellStory(const Album& album) {
     showPerspective(album);
     pressWide(driver, button::kMenu);
     album.add("menu", Form1);
+    showColorPage(album);
+    showHelp(album);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "panels/cursors_sounds.h"
+#include "panels/hints.h"
 #include "platform/dispatch.h"
 #include "platform/services.h"
 
@@ -84,6 +86,9 @@ void NTool_MouseDown(EventArgs& args) {
     }
     const int i = buttonOf(args);
     ButtonRecord& record = OptionStates(i);
+    if (record.State != kOn) {
+        PlayButtonSound(kPressSound);
+    }
     if (record.Latching == kYes) {
         pressLatching(i, record);
     } else if (CanUseTool(i)) {
@@ -94,6 +99,8 @@ void NTool_MouseDown(EventArgs& args) {
 void NTool_MouseMove(EventArgs& args) {
     const int i = buttonOf(args);
     const ButtonRecord& record = OptionStates(i);
+    showButtonHint(i);
+    wantCursor(kPlainCursor, *args.Source);
     if (HoverTool != i) {
         clearHover();
     }
@@ -115,7 +122,7 @@ void NTool_MouseUp(EventArgs& args) {
         return;
     }
     int i = buttonOf(args);
-    const ButtonRecord& record = OptionStates(i);
+    ButtonRecord& record = OptionStates(i);
     if (isOverlay(args)) {
         OverlayHit = 1;
     }
@@ -124,8 +131,12 @@ void NTool_MouseUp(EventArgs& args) {
     }
     if (record.Latching == 0) {
         paintState(i, kHover);
+        PlayButtonSound(kReleaseSound);
     } else if (record.Exclusive == 0 && record.SavedState == kOn) {
-        paintState(i, kHover);
+        // The state comes first: the box of the sounds themselves is heard going off.
+        record.State = kHover;
+        PlayButtonSound(kReleaseSound);
+        DrawButton(i);
     }
     const bool isFired = record.Latching == kYes || isOnFace(i, args);
     // Cleared before the command, which may yield to other buttons or end in a failure.

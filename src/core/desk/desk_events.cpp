@@ -4,11 +4,14 @@
 #include "core/buttons.h"
 #include "core/desk/button_events.h"
 #include "core/editor_state.h"
+#include "core/maker_page.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
+#include "panels/cursors_sounds.h"
+#include "panels/hints.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"
 #include "platform/numeric.h"
@@ -36,6 +39,11 @@ int frameOf(const EventArgs& args) {
     return args.Source == &Form1.Picture1 ? -1 : args.Index;
 }
 
+bool isPointerInEditor() {
+    return Form1.PointerX >= 0 && Form1.PointerX < Form1.Width && Form1.PointerY >= 0 &&
+           Form1.PointerY < Form1.Height;
+}
+
 }  // namespace
 
 void Form1_Timer(EventArgs& /*args*/) {
@@ -44,9 +52,13 @@ void Form1_Timer(EventArgs& /*args*/) {
     showProgress();
     colorTitle();
     finishStop();
+    if (!isPointerInEditor()) {
+        ResetCursorHook(kCursorOutside);
+    }
 }
 
 void Ground_MouseMove(EventArgs& /*args*/) {
+    ResetCursorHook(kPlainCursor);
     MouseState = kGestureNone;
     clearHover();
 }
@@ -57,6 +69,11 @@ void Ground_Click(EventArgs& /*args*/) {
 }
 
 void QuietPart_MouseMove(EventArgs& /*args*/) {
+    clearHover();
+}
+
+void ZoomView_MouseMove(EventArgs& /*args*/) {
+    ShowHint(kZoomHint);
     clearHover();
 }
 
@@ -85,6 +102,8 @@ void VertScroller_MouseDown(EventArgs& args) {
 }
 
 void VertScroller_MouseMove(EventArgs& args) {
+    showSliderHint(args.Index);
+    ResetCursorHook(kPlainCursor);
     if (args.Button == MouseButton::Left) {
         dragThumb(args.Index, args.X);
     }
@@ -126,6 +145,10 @@ void OptFrame_MouseDown(EventArgs& args) {
 }
 
 void OptFrame_MouseMove(EventArgs& args) {
+    if (frameOf(args) >= 0) {
+        ShowHint(kOptionFrameHint);
+    }
+    wantCursor(kPlainCursor, *args.Source);
     clearHover();
     dragFrames(frameOf(args), args.Y);
 }

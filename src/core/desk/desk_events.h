@@ -5,13 +5,11 @@
 
 namespace ombrelia {
 
-// Address of the maker's page.
-inline constexpr const char* kMakerPage = "https://quillbyte.example/";
-
 void Form1_Timer(EventArgs& args);
 void Ground_MouseMove(EventArgs& args);
 void Ground_Click(EventArgs& args);
 void QuietPart_MouseMove(EventArgs& args);
+void ZoomView_MouseMove(EventArgs& args);
 void Label32_Click(EventArgs& args);
 void Label32_DragOver(EventArgs& args);
 void Label32_DragDrop(EventArgs& args);

@@ -11,6 +11,7 @@
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "panels/hints.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
@@ -162,6 +163,7 @@ void MapView_MouseDown(EventArgs& args) {
 }
 
 void MapView_MouseMove(EventArgs& args) {
+    aboutMap();
     Place place = placeOf(args);
     clearHover();
     std::int16_t isStayingOutside = 0;
@@ -245,6 +247,7 @@ void Picker_MouseDown(EventArgs& args) {
 }
 
 void Picker_MouseMove(EventArgs& args) {
+    ShowHint(kPickerHint);
     if (MouseState != kGesturePickerDrag) {
         return;
     }

@@ -10,9 +10,11 @@
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
 #include "files/bitmap_export.h"
 #include "files/bitmap_import.h"
+#include "panels/color_editor.h"
 #include "panels/option_frames.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
@@ -66,6 +68,10 @@ void redrawWithColors() {
     UpdateMapView(1);
 }
 
+void showHelp() {
+    showWindow(HelpBox);
+}
+
 void minimizeEditor() {
     minimizeWindow(Form1);
 }
@@ -97,8 +103,11 @@ constexpr Command kCommands[] = {
     {button::kGenerate, GenerateCommand, true},
     {button::kAbout, showAbout, false},
     {button::kStop, requestStop, false},
+    {button::kHelp, showHelp, false},
     {button::kRedrawColors, redrawWithColors, true},
     {button::kMinimize, minimizeEditor, false},
+    {button::kAddColor, AddColorSet, false},
+    {button::kDeleteColor, DeleteColorSet, false},
     {button::kShowHelpBox, showOrHideHint, false},
 };
 

@@ -14,6 +14,8 @@
 #include "core/windows/form1.h"
 #include "core/windows/layout.h"
 #include "core/windows/small_windows.h"
+#include "panels/color_editor.h"
+#include "panels/cursors_sounds.h"
 #include "platform/dispatch.h"
 #include "platform/messages.h"
 #include "platform/services.h"
@@ -58,15 +60,6 @@ void showColors() {
     UpdatePickedColor();
     ShowColorSet();
     ListColorSets();
-}
-
-void selectComboEntry(int entry) {
-    if (Form1.Combo1.ListIndex == entry) {
-        return;
-    }
-    Form1.Combo1.ListIndex = entry;
-    Form1.Combo1.Caption = Form1.Combo1.List[static_cast<std::size_t>(entry)];
-    raise(Form1.Combo1, Event::Click);
 }
 
 void layOutEdges() {
@@ -233,7 +226,7 @@ void Form1_Load(EventArgs& /*args*/) {
     refreshControl(Form1);
     showColors();
     SuppressComboClick = 1;
-    selectComboEntry(0);
+    selectFirstColorSet();
     if (ImportAtStart == 1) {
         const ImportChoice choice;
         ImportCommand();
@@ -257,6 +250,7 @@ void StartNewMap() {
 
 void ExitEditor() {
     SavePreferences();
+    ResetCursorHook(kCursorOutside);
     if (NewMapPending == 1) {
         NewMapPending = 0;
         return;
@@ -285,12 +279,6 @@ void repairAfterFailure() {
 void Title_MouseDown(EventArgs& args) {
     if (args.Button == MouseButton::Left) {
         services().desktop->beginWindowMove(*args.Source->Owner);
-    }
-}
-
-void Combo1_Click(EventArgs& /*args*/) {
-    if (SuppressComboClick == 1) {
-        SuppressComboClick = 0;
     }
 }
 

@@ -33,6 +33,5 @@ void SizeSelect_JokeDblClick(EventArgs& args);
 void Form1_Load(EventArgs& args);
 void Form1_Unload(EventArgs& args);
 void Title_MouseDown(EventArgs& args);
-void Combo1_Click(EventArgs& args);
 
 }  // namespace ombrelia

@@ -63,9 +63,9 @@ constexpr FrameButton kButtons[] = {
     {button::kSave, 11, 26, 53, Picture::None},
     {button::kAbout, 11, 144, 53, Picture::None},
     {button::kExit, 11, 85, 86, Picture::None},
-    {button::kRedrawColors, 14, 240, 21, Picture::None},
-    {button::kAddColor, 14, 26, 87, Picture::None},
-    {button::kDeleteColor, 14, 144, 87, Picture::None},
+    {button::kRedrawColors, 14, 238, 19, Picture::None},
+    {button::kAddColor, 14, 26, 84, Picture::None},
+    {button::kDeleteColor, 14, 144, 84, Picture::None},
 };
 
 struct CheckPlace {
@@ -100,7 +100,7 @@ struct FrameTextPlace {
 };
 
 constexpr FrameTextPlace kTexts[] = {
-    {6, {12, 61, 100, 13}, "Style", TextAlign::Left},
+    {6, {12, 61, 100, 14}, "Style", TextAlign::Left},
     {7, {10, 50, 260, 30}, "There are currently no options for this tool.", TextAlign::Center},
     {8, {12, 69, 92, 14}, "Side Steepness", TextAlign::Left},
     {9, {12, 69, 92, 14}, "Edge Steepness", TextAlign::Left},
@@ -160,22 +160,26 @@ void designTexts(Form1Window& form) {
 
 void designColorPage(Form1Window& form) {
     PictureBox& frame = form.OptFrame(14);
-    designPart(form.Combo1, "Combo1", frame, {12, 21, 220, 19});
+    designPart(form.Combo1, "Combo1", frame, {12, 20, 220, 20});
     form.Combo1.List.clear();
     form.Combo1.ListIndex = -1;
-    designSurface(form.PrefPicker, "PrefPicker", frame, {12, 43, 256, 9});
+    designSurface(form.PrefPicker, "PrefPicker", frame, {12, 42, 256, 9});
     for (int i = 1; i <= 5; ++i) {
-        designImage(form.Range.make(i), "Range", frame, 12, 52, Picture::Range);
+        Image& marker = form.Range.make(i);
+        designImage(marker, "Range", frame, 12, 51, Picture::Range);
+        marker.InWholeUnits = true;  // a boundary at half a height would leave a height without row
     }
     for (int row = 0; row < 6; ++row) {
         const double left = 12 + 43.0 * row;
-        designLabel(form.FrameText.make(10 + row), "FrameText", frame, {left, 60, 41, 11},
+        designLabel(form.FrameText.make(10 + row), "FrameText", frame, {left, 58, 39, 12},
                     kRowLabels[row],
                     {.size = 9, .color = skin::kTextQuiet, .align = TextAlign::Center});
         for (int end = 0; end < 2; ++end) {
             PictureBox& swatch = form.Rng1.make(2 * row + end);
-            designPart(swatch, "Rng1", frame, {left + 21 * end, 72, 19, 12});
+            designPart(swatch, "Rng1", frame, {left + 20 * end, 70, 19, 11});
             swatch.Opaque = true;
+            swatch.AccessibleName = std::string(kRowLabels[row]) + (end == 0 ? ", low" : ", high");
+            swatch.Role = AccessRole::Button;
         }
     }
 }

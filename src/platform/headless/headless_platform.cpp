@@ -41,7 +41,7 @@ std::string onOneLine(const std::string& text) {
 }
 
 void HeadlessPlatform::install() {
-    services() = {this, this, this, this, this, this, this, this};
+    services() = {this, this, this, this, this, this, this, this, this};
     resetDispatch();
 }
 
@@ -204,6 +204,15 @@ std::string HeadlessPlatform::activeWindowCaption() {
 
 void HeadlessPlatform::openWebPage(const std::string& /*address*/) {
     log("web");
+}
+
+// Its folder is the current one.
+std::string HeadlessPlatform::programFile(const std::string& name) {
+    return name;
+}
+
+void HeadlessPlatform::play(const std::string& path) {
+    log("sound " + path.substr(path.find_last_of('/') + 1));
 }
 
 void HeadlessPlatform::end() {

@@ -31,6 +31,7 @@ class HeadlessPlatform : public Dialogs,
                          public RandomSource,
                          public Desktop,
                          public FailureReport,
+                         public Sound,
                          public PictureLoader {
   public:
     // Puts this platform's services in force.
@@ -119,6 +120,8 @@ class HeadlessPlatform : public Dialogs,
     void openWebPage(const std::string& address) override;
     void end() override;
     void failed(const std::string& sentence) override;
+    std::string programFile(const std::string& name) override;
+    void play(const std::string& path) override;
 
   private:
     void log(const std::string& call);

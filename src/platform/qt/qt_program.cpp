@@ -5,6 +5,7 @@
 
 #include "platform/generator_random.h"
 #include "platform/qt/accessibility.h"
+#include "platform/qt/canberra_sound.h"
 #include "platform/qt/picture_loader.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
@@ -50,7 +51,9 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     GeneratorRandom random;
     QtPictureLoader pictures;
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
-    services() = {&dialogs, &settings, &files, &clock, &random, &desktop, &failures, &pictures};
+    CanberraSound sound;
+    services() = {&dialogs, &settings, &files,    &clock, &random,
+                  &desktop, &failures, &pictures, &sound};
     desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);

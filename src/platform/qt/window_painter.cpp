@@ -1,10 +1,10 @@
 #include "platform/qt/window_painter.h"
 
-#include <QFont>
 #include <QGuiApplication>
 #include <cmath>
 
 #include "platform/dispatch.h"
+#include "platform/qt/label_text.h"
 
 namespace ombrelia {
 
@@ -13,32 +13,6 @@ namespace {
 QColor colorFor(Color color) {
     return {static_cast<int>(redOf(color)), static_cast<int>(greenOf(color)),
             static_cast<int>(blueOf(color))};
-}
-
-// A text as it shows: "&&" stands for one "&".
-QString shownText(const std::string& caption) {
-    return QString::fromStdString(caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
-}
-
-QFont fontFor(double sizeDevice, bool isBold, bool isUnderlined) {
-    QFont font;
-    font.setFamilies(
-        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(sizeDevice))));
-    font.setBold(isBold);
-    font.setUnderline(isUnderlined);
-    return font;
-}
-
-Qt::Alignment alignmentOf(const Label& label) {
-    switch (label.Align) {
-        case TextAlign::Center:
-            return Qt::AlignHCenter;
-        case TextAlign::Right:
-            return Qt::AlignRight;
-        default:
-            return Qt::AlignLeft;
-    }
 }
 
 class Painting {
@@ -92,10 +66,7 @@ class Painting {
         }
         painter_.setFont(fontFor(label.FontSize * tools_.scale, label.Bold, label.Underline));
         painter_.setPen(colorFor(label.ForeColor));
-        const int flags = label.WordWrap ? static_cast<int>(Qt::AlignTop | alignmentOf(label)) |
-                                               static_cast<int>(Qt::TextWordWrap)
-                                         : static_cast<int>(Qt::AlignVCenter | alignmentOf(label));
-        painter_.drawText(place, flags, shownText(label.Caption));
+        painter_.drawText(place, textFlags(label), shownText(label.Caption));
     }
 
     void drawPictureBox(const PictureBox& box, const QRect& place) {

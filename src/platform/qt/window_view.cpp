@@ -12,6 +12,7 @@
 #include "platform/dispatch.h"
 #include "platform/qt/accessibility.h"
 #include "platform/qt/key_mapping.h"
+#include "platform/qt/list_menu.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_painter.h"
 
@@ -117,6 +118,8 @@ bool WindowView::followRecord() {
 WindowView::Shown WindowView::lookOf(const Control& control) const {
     Shown look;
     look.rect = visibleDeviceRect(control, scale_);
+    const bool isLine = control.Kind == ControlKind::Line;
+    look.corner = deviceRect(isLine ? *control.Parent : control, scale_).topLeft();
     look.face = control.Face;
     look.caption = control.Caption;
     if (control.Kind == ControlKind::Label) {
@@ -203,12 +206,21 @@ QPointF WindowView::unitsOf(const QPointF& logical) const {
     return (logical - QPointF(0, menuHeight())) * (devicePixelRatioF() / scale_);
 }
 
+// The unit in which the middle of the device pixel lies.
+QPointF WindowView::wholeUnits(const QPointF& units) const {
+    const double middle = 0.5 / scale_;
+    return {std::floor(units.x() + middle), std::floor(units.y() + middle)};
+}
+
 void WindowView::deliverTo(Control& control, Event event, MouseButton button,
                            const QPointF& units) {
     const Point corner =
         control.Kind == ControlKind::Window ? Point{0, 0} : cornerInWindow(control);
+    const bool isWhole =
+        control.Kind == ControlKind::Image && static_cast<Image&>(control).InWholeUnits;
+    const QPointF place = isWhole ? wholeUnits(units) : units;
     desktop_.run(
-        [&] { deliverMouse(control, event, button, units.x() - corner.x, units.y() - corner.y); });
+        [&] { deliverMouse(control, event, button, place.x() - corner.x, place.y() - corner.y); });
 }
 
 void WindowView::press(QMouseEvent* event) {
@@ -217,9 +229,30 @@ void WindowView::press(QMouseEvent* event) {
     pressCorner_ = pos();
     isMoveArmed_ = false;
     isFollowing_ = false;
-    captured_ = &controlAt(window_, units.x(), units.y());
+    Control& under = controlAt(window_, units.x(), units.y());
+    if (under.Kind == ControlKind::ListBox) {
+        if (event->button() == Qt::LeftButton && ombrelia::isEnabled(under)) {
+            openList(static_cast<ListBox&>(under));
+        }
+        return;
+    }
+    captured_ = &under;
     heldButton_ = buttonOf(event->button());
     deliverTo(*captured_, Event::MouseDown, heldButton_, units);
+}
+
+void WindowView::openList(ListBox& list) {
+    const QRect place = deviceRect(list, scale_);
+    const QPoint corner = mapToGlobal(logicalRect(place).bottomLeft() + QPoint(0, 1));
+    openListMenu(*this, list, corner, place.width(), scale_, [this, &list](int entry) {
+        if (!window_.Loaded || entry >= static_cast<int>(list.List.size()) ||
+            !ombrelia::isEnabled(list)) {
+            return;
+        }
+        list.ListIndex = entry;
+        list.Caption = list.List[static_cast<std::size_t>(entry)];
+        desktop_.run([&list] { deliver(list, Event::Click); });
+    });
 }
 
 void WindowView::beginDrag(Control& source) {

@@ -75,6 +75,7 @@ class WindowView : public QWidget {
     // What a part looked like when it was last painted.
     struct Shown {
         QRect rect;
+        QPoint corner;  // uncut, of a line its container's: what is cut off moves unseen
         PictureFace face;
         std::string caption;
         std::array<double, 4> numbers{};  // ends of a line
@@ -85,8 +86,10 @@ class WindowView : public QWidget {
 
     Shown lookOf(const Control& control) const;
     QPointF unitsOf(const QPointF& logical) const;
+    QPointF wholeUnits(const QPointF& units) const;
     void deliverTo(Control& control, Event event, MouseButton button, const QPointF& units);
     void press(QMouseEvent* event);
+    void openList(ListBox& list);
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
     void deliverDrag(Event event, const QPointF& units);

@@ -1,0 +1,116 @@
+#include "panels/help_scroller.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/help_box.h"
+#include "platform/dispatch.h"
+#include "platform/numeric.h"
+#include "platform/window_life.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr int kArrowStep = 9;
+constexpr std::int16_t kThumbHeld = 2;
+
+SliderRecord& record() {
+    return SliderValues(kPageSlider);
+}
+
+Image& thumb() {
+    return HelpBox.Scroller(kPageSlider);
+}
+
+const Image& track() {
+    return HelpBox.Filler(kPageSlider);
+}
+
+void placePage() {
+    PictureBox& page = HelpBox.Topic(CurrentTopic);
+    page.Top = -record().Value;
+    refreshControl(page);
+}
+
+void placeThumb() {
+    const SliderRecord& slider = record();
+    const double share = slider.Max == slider.Min ? 0
+                                                  : static_cast<double>(slider.Value - slider.Min) /
+                                                        (slider.Max - slider.Min);
+    thumb().Top = share * (track().Height - thumb().Height) + track().Top;
+    refreshControl(thumb());
+}
+
+void scrollBy(int step) {
+    record().Value = narrowTo<std::int16_t>(record().Value + step);
+    placeThumb();
+    placePage();
+}
+
+}  // namespace
+
+void fitScrollerToPage() {
+    const double overflow = HelpBox.Topic(CurrentTopic).Height - HelpBox.Picture1.Height;
+    record() = {0, 0, roundToInt16(overflow), 0};
+    placeThumb();
+}
+
+void beginPageThumbDrag(float yTwips) {
+    HelpSliderDragState = kThumbHeld;
+    HelpThumbGrab = roundToInt16(thumb().Top + yTwips / kTwipsPerPixel);
+}
+
+void dragPageThumb(float yTwips) {
+    if (HelpSliderDragState != kThumbHeld || record().Max <= record().Min) {
+        return;
+    }
+    const double low = track().Top;
+    const double room = track().Height - thumb().Height;
+    const double pointer = std::floor(thumb().Top + yTwips / kTwipsPerPixel);
+    if (pointer < low || pointer > low + room) {
+        return;
+    }
+    const double moved = std::floor(pointer - HelpThumbGrab);
+    thumb().Top = std::clamp(std::floor(moved + thumb().Top), low, low + room);
+    HelpThumbGrab = roundToInt16(pointer);
+    record().Value =
+        floorToInt16((thumb().Top - low) / room * (record().Max - record().Min) + record().Min);
+    placePage();
+}
+
+void endPageThumbDrag() {
+    HelpSliderDragState = 0;
+}
+
+void holdPageArrow(bool isUp) {
+    if (isUp) {
+        HelpBox.ScrollUp(kPageSlider).Face = {Picture::UpArrow, 1};
+        HelpMouseState = kGestureScrollUp;
+    } else {
+        HelpBox.ScrollDown(kPageSlider).Face = {Picture::DownArrow, 1};
+        HelpMouseState = kGestureScrollDown;
+    }
+}
+
+void releasePageArrow(bool isUp) {
+    if (isUp) {
+        HelpBox.ScrollUp(kPageSlider).Face = {Picture::UpArrow, 0};
+    } else {
+        HelpBox.ScrollDown(kPageSlider).Face = {Picture::DownArrow, 0};
+    }
+    HelpMouseState = kGestureNone;
+}
+
+void scrollHeldPageArrow() {
+    if (HelpMouseState == kGestureScrollUp && record().Value >= kArrowStep) {
+        scrollBy(-kArrowStep);
+    }
+    if (HelpMouseState == kGestureScrollDown && record().Value <= record().Max - kArrowStep) {
+        scrollBy(kArrowStep);
+    }
+}
+
+}  // namespace ombrelia

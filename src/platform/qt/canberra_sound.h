@@ -1,0 +1,25 @@
+// Button sounds through libcanberra, on a thread of its own that nobody waits for: a sound server
+// that is missing or does not answer costs silence and nothing else.
+#pragma once
+
+#include <memory>
+
+#include "platform/services.h"
+
+namespace ombrelia {
+
+class CanberraSound : public Sound {
+  public:
+    std::string programFile(const std::string& name) override;
+    void play(const std::string& path) override;
+
+  private:
+    struct Queue;
+
+    static void playAll(std::shared_ptr<Queue> queue);
+
+    // Shared with the thread, which outlives everything. Made at the first sound.
+    std::shared_ptr<Queue> queue_;
+};
+
+}  // namespace ombrelia

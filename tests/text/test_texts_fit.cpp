@@ -1,0 +1,104 @@
+// Whether the long texts fit their labels at every scale at which the windows are shown.
+#include <QGuiApplication>
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "app/bindings.h"
+#include "core/desk/startup.h"
+#include "core/windows/form1.h"
+#include "core/windows/help_box.h"
+#include "core/windows/help_texts_table.h"
+#include "core/windows/small_windows.h"
+#include "panels/help_box.h"
+#include "panels/hints_table.h"
+#include "platform/dispatch.h"
+#include "platform/headless/headless_platform.h"
+#include "platform/qt/label_text.h"
+#include "platform/window_life.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr double kScales[] = {1, 1.25, 1.5, 1.75, 2, 2.5, 3, 4};
+
+void expectToFit(const Label& label, const std::string& what) {
+    for (const double scale : kScales) {
+        const QSize taken = textSizeDevice(label, scale);
+        EXPECT_LE(taken.height(), std::lround(label.Height * scale)) << what << " at " << scale;
+        EXPECT_LE(taken.width(), std::lround(label.Width * scale)) << what << " at " << scale;
+    }
+}
+
+void expectAllToFit(ControlArray<Label>& labels) {
+    labels.forEach([](const Label& label) {
+        expectToFit(label, label.Name + " " + std::to_string(label.Index));
+    });
+}
+
+class Texts : public testing::Test {
+  protected:
+    Texts() {
+        platform.install();
+        resetProcess();
+        startEditor();
+        showWindow(Form1);
+        showWindow(HelpBox);
+    }
+
+    HeadlessPlatform platform;
+};
+
+TEST_F(Texts, every_page_of_the_help_fits_its_label) {
+    for (auto* labels :
+         {&HelpBox.TopicTitle, &HelpBox.TopicLabel, &HelpBox.LinkLbl, &HelpBox.ContLbl,
+          &HelpBox.ToolName, &HelpBox.IconName, &HelpBox.IconText, &HelpBox.LTool}) {
+        expectAllToFit(*labels);
+    }
+    expectToFit(HelpBox.Label40, "the About page");
+    expectToFit(HelpBox.Label41, "its heading");
+}
+
+TEST_F(Texts, what_follows_a_text_stands_below_it) {
+    HelpBox.Topic.forEach([](const PictureBox& page) {
+        double bottom = 0;
+        for (const Control* part : HelpBox.Controls) {
+            if (part->Parent == &page && part->Kind == ControlKind::Label) {
+                EXPECT_GE(part->Top, bottom) << part->Name << " on page " << page.Index;
+                bottom = part->Top + part->Height;
+                EXPECT_LE(bottom, page.Height) << part->Name << " on page " << page.Index;
+            }
+        }
+    });
+}
+
+TEST_F(Texts, every_hint_fits_the_frame) {
+    const auto expectHintToFit = [](const std::string& text) {
+        HelpFrm.HelpLbl.Caption = text;
+        expectToFit(HelpFrm.HelpLbl, text);
+    };
+    for (const NumberedHint& row : kButtonHints) {
+        expectHintToFit(row.text);
+    }
+    for (const NumberedHint& row : kSliderHints) {
+        expectHintToFit(row.text);
+    }
+    for (const MapHint& row : kMapHints) {
+        expectHintToFit(std::string("This is the map view. ") + row.text);
+    }
+}
+
+TEST_F(Texts, the_colour_page_fits_its_labels) {
+    expectAllToFit(Form1.FrameText);
+}
+
+}  // namespace
+
+}  // namespace ombrelia
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,254 @@
+#include "core/button_numbers.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "core/windows/help_box.h"
+#include "editor_fixture.h"
+#include "panels/help_box.h"
+#include "panels/second_help_table.h"
+#include "platform/dispatch.h"
+#include "platform/window_life.h"
+
+namespace ombrelia {
+
+namespace {
+
+class Help : public EditorTest {
+  protected:
+    Help() { showWindow(HelpBox); }
+
+    static void click(Control& control) {
+        deliverMouse(control, Event::MouseDown, MouseButton::Left, 2, 2);
+        deliverMouse(control, Event::MouseUp, MouseButton::Left, 2, 2);
+        deliverMouse(control, Event::Click, MouseButton::Left, 2, 2);
+    }
+
+    // The one page that shows.
+    static int shownPage() {
+        int shown = 0;
+        HelpBox.Topic.forEach([&](const PictureBox& page) {
+            if (page.Visible) {
+                EXPECT_EQ(shown, 0) << "two pages show";
+                shown = page.Index;
+            }
+        });
+        return shown;
+    }
+};
+
+TEST_F(Help, every_long_text_is_the_described_one) {
+    EXPECT_EQ(std::size(kSecondHelpTexts), 20U);
+    for (const SecondHelpText& row : kSecondHelpTexts) {
+        const bool isTool = row.page >= 400 && row.page < 500;
+        const Label& label = isTool ? HelpBox.IconText(row.page) : HelpBox.TopicLabel(row.page);
+        EXPECT_EQ(label.Caption, row.text) << row.page;
+        EXPECT_EQ(TopicText(row.page), isTool ? row.text : "") << row.page;
+    }
+}
+
+struct Titled {
+    int page;
+    const char* title;
+};
+constexpr Titled kTitles[] = {
+    {1, "Contents"},
+    {2, "Starting Out"},
+    {3, "Simple"},
+    {4, "Icons"},
+    {5, "Advanced"},
+    {6, "Advanced Terrain Editing"},
+    {200, "Step 1"},
+    {201, "Step 2"},
+    {202, "Step 3"},
+    {300, "Importing to Ombrelia"},
+    {301, "Starting a New Map"},
+    {500, "Changing the Color Palatte"},
+    {501, "Changing the Options"},
+    {600, "Fractal Terrain"},
+    {601, "Importing a Bitmap"},
+};
+
+TEST_F(Help, every_page_has_its_heading) {
+    for (const Titled& row : kTitles) {
+        EXPECT_EQ(HelpBox.TopicTitle(row.page).Caption, row.title);
+    }
+    EXPECT_EQ(HelpBox.Label41.Caption, "About Quillbyte");
+    EXPECT_EQ(HelpBox.TopicLabel(1).Caption,
+              "Welcome to the Ombrelia Terrain Editor's Help System. To begin, select a topic on "
+              "the left.");
+    EXPECT_EQ(HelpBox.TopicLabel(4).Caption, "Please Select an Icon from the list:");
+}
+
+struct Link {
+    int page;
+    const char* text;
+    int target;
+};
+constexpr Link kLinks[] = {
+    {2, "Step 1: Create a Simple Terrain", 200},
+    {2, "Step 2: View in 3D", 201},
+    {2, "Step 3: Save to a file", 202},
+    {3, "Creating a New Map", 301},
+    {3, "Importing into Ombrelia", 300},
+    {5, "Changing the Color Palatte", 500},
+    {5, "Changing the Options", 501},
+    {6, "Fractal Terrain", 600},
+    {6, "Importing a Bitmap", 601},
+    {200, "Proceed to Step 2", 201},
+    {201, "Proceed to Step 3", 202},
+    {202, "Now see IMPORTING INTO OMBRELIA", 300},
+};
+
+TEST_F(Help, every_link_leads_to_its_page) {
+    int found = 0;
+    HelpBox.LinkLbl.forEach([&](Label& label) {
+        for (const Link& row : kLinks) {
+            if (label.Parent == &HelpBox.Topic(row.page) && label.Caption == row.text) {
+                ++found;
+                click(label);
+                EXPECT_EQ(CurrentTopic, row.target) << row.text;
+                EXPECT_EQ(shownPage(), row.target) << row.text;
+            }
+        }
+    });
+    EXPECT_EQ(found, 12);
+}
+
+constexpr const char* kContents[] = {
+    "Starting Out - New to the Terrain Editor? Here's a crash course.",
+    "Simple - How to do easy things in the editor.",
+    "Icons - Descriptions of every icon you see in the program.",
+    "Advanced - How to use more advanced features of the program.",
+    "Advanced Terrain Editing - More advanced editing features",
+    "About - Learn about who made the editor",
+};
+
+TEST_F(Help, the_contents_lead_to_pages_2_to_7) {
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(HelpBox.ContLbl(i).Caption, kContents[i]);
+        click(HelpBox.ContLbl(i));
+        EXPECT_EQ(shownPage(), i + 2);
+    }
+}
+
+constexpr const char* kTools[] = {
+    "Pencil Tool",  "Line Tool", "Raise Terrain Tool", "Lower Terrain Tool", "Fractal Terrain",
+    "2D Mode",      "3D Mode",   "Color Picker Tool",  "Mountain Object",    "Canyon Object",
+    "Plain Object",
+};
+
+TEST_F(Help, every_tool_leads_to_its_page_with_its_picture) {
+    for (int i = 0; i < 11; ++i) {
+        const int page = 400 + i;
+        EXPECT_EQ(HelpBox.ToolName(i).Caption, kTools[i]);
+        EXPECT_EQ(HelpBox.IconName(page).Caption, kTools[i]);
+        EXPECT_EQ(HelpBox.IconPic(page).Face, Form1.NTool(100 + i).Face);
+        EXPECT_EQ(HelpBox.ToolPic(i).Face, Form1.NTool(100 + i).Face);
+        EXPECT_EQ(HelpBox.Topic(page).Height, HelpBox.IconText(page).Height + 80);
+        if (i > 0) {
+            EXPECT_EQ(HelpBox.ToolPic(i).Top - HelpBox.ToolPic(i - 1).Top, 44);
+        }
+        click(HelpBox.ToolName(i));
+        EXPECT_EQ(shownPage(), page);
+        click(HelpBox.ToolPic(10 - i));
+        EXPECT_EQ(shownPage(), 410 - i);
+    }
+}
+
+TEST_F(Help, the_about_page_says_its_things_in_order) {
+    std::size_t place = 0;
+    for (const char* part :
+         {"Quillbyte", "spare time", "Donations can be sent to:\n", "About Quillbyte:\n",
+          "https://", "Official Non-Quillbyte Page:\n", "https://"}) {
+        const std::size_t found = HelpBox.Label40.Caption.find(part, place);
+        ASSERT_NE(found, std::string::npos) << part;
+        place = found + 1;
+    }
+}
+
+TEST_F(Help, the_buttons_on_the_left_lead_to_pages_1_to_7) {
+    const char* const texts[] = {"Contents", "Starting Out", "Simple", "Icons",
+                                 "Advanced", "Advanced TE",  "About",  "Back"};
+    for (int i = 90; i <= 97; ++i) {
+        EXPECT_EQ(HelpBox.LTool(i).Caption, texts[i - 90]);
+        EXPECT_EQ(OptionStates(i).Kind, kind::kStand);
+        EXPECT_EQ(OptionStates(i).Group, 1);
+    }
+    EXPECT_EQ(OptionStates(98).Kind, kind::kClose);
+    for (int i = 90; i <= 96; ++i) {
+        click(i % 2 == 0 ? static_cast<Control&>(HelpBox.NTool(i)) : HelpBox.LTool(i));
+        EXPECT_EQ(shownPage(), i - 89);
+    }
+}
+
+struct BackStep {
+    int from;
+    int to;
+};
+
+TEST_F(Help, back_leads_to_the_parent) {
+    for (const BackStep& step :
+         {BackStep{1, 1}, BackStep{2, 1}, BackStep{7, 1}, BackStep{201, 2}, BackStep{301, 3},
+          BackStep{400, 4}, BackStep{410, 4}, BackStep{501, 5}, BackStep{600, 6}}) {
+        GotoTopic(step.from);
+        click(HelpBox.NTool(97));
+        EXPECT_EQ(shownPage(), step.to) << step.from;
+    }
+}
+
+TEST_F(Help, a_number_of_0_or_less_changes_nothing) {
+    GotoTopic(3);
+    GotoTopic(0);
+    GotoTopic(-4);
+    EXPECT_EQ(shownPage(), 3);
+    EXPECT_EQ(CurrentTopic, 3);
+}
+
+TEST_F(Help, a_page_beyond_7_marks_nothing) {
+    const ButtonRecord before = OptionStates(6);
+    HelpGroupCurrent(1) = 9;
+    GotoTopic(200);
+    EXPECT_EQ(HelpGroupCurrent(1), 9);
+    EXPECT_EQ(OptionStates(6).State, before.State);
+}
+
+TEST_F(Help, a_marked_tool_is_not_painted_in_the_editor) {
+    const PictureFace before = Form1.NTool(2).Face;
+    GotoTopic(3);
+    EXPECT_EQ(OptionStates(2).State, kOn);
+    EXPECT_EQ(Form1.NTool(2).Face, before);
+}
+
+TEST_F(Help, the_scroller_moves_the_page_and_fits_its_length) {
+    GotoTopic(4);
+    const double overflow = HelpBox.Topic(4).Height - HelpBox.Picture1.Height;
+    EXPECT_EQ(SliderValues(20).Max, overflow);
+    Image& thumb = HelpBox.Scroller(20);
+    const double top = thumb.Top;
+    deliverMouse(thumb, Event::MouseDown, MouseButton::Left, 5, 5);
+    deliverMouse(thumb, Event::MouseMove, MouseButton::Left, 5, 105);
+    EXPECT_EQ(thumb.Top, top + 100);
+    const double room = HelpBox.Filler(20).Height - thumb.Height;
+    EXPECT_EQ(SliderValues(20).Value, static_cast<int>(100 / room * overflow));
+    EXPECT_EQ(HelpBox.Topic(4).Top, -SliderValues(20).Value);
+    deliverMouse(thumb, Event::MouseUp, MouseButton::Left, 5, 5);
+    deliverMouse(thumb, Event::MouseMove, MouseButton::None, 5, 55);
+    EXPECT_EQ(thumb.Top, top + 100);
+}
+
+TEST_F(Help, a_held_arrow_stops_short_of_the_end) {
+    GotoTopic(4);
+    const int most = SliderValues(20).Max;
+    deliverMouse(HelpBox.ScrollDown(20), Event::MouseDown, MouseButton::Left, 5, 5);
+    EXPECT_EQ(HelpBox.ScrollDown(20).Face, (PictureFace{Picture::DownArrow, 1}));
+    for (int tick = 0; tick < 100; ++tick) {
+        deliver(HelpBox.Timer1, Event::Timer);
+    }
+    EXPECT_EQ(SliderValues(20).Value, most / 9 * 9);
+    deliverMouse(HelpBox.ScrollDown(20), Event::MouseUp, MouseButton::Left, 5, 5);
+    EXPECT_EQ(HelpBox.ScrollDown(20).Face, (PictureFace{Picture::DownArrow, 0}));
+}
+
+}  // namespace
+
+}  // namespace ombrelia
