@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 
+#include "core/button_numbers.h"
 #include "core/windows/maze_window.h"
 #include "games/maze/maze_generator.h"
 #include "games/maze/maze_picture.h"
@@ -160,6 +161,15 @@ void close() {
     releaseMaze();
 }
 
+// No question is asked; but an operation of the editor, in whose yield this is, returns first.
+void leaveProgram() {
+    if (isNested()) {
+        putOff(button::kExit, endProcess);
+    } else {
+        endProcess();
+    }
+}
+
 }  // namespace
 
 std::string clockText(float seconds) {
@@ -241,7 +251,8 @@ void mnuActionItem_Click(EventArgs& args) {
             break;
         case kExitItem:
             close();
-            endProcess();
+            leaveProgram();
+            break;
         default:
             break;
     }

@@ -64,6 +64,11 @@ class WindowPainter : public MazePainter {
     MazePalette palette_;
 };
 
+MazePainter& windowPainter() {
+    static WindowPainter painter;
+    return painter;
+}
+
 // The painter in force; none: the window's own. Written by setMazePainter alone.
 MazePainter* painterInForce = nullptr;
 
@@ -76,11 +81,6 @@ double pictureHeight() {
 }
 
 }  // namespace
-
-MazePainter& windowPainter() {
-    static WindowPainter painter;
-    return painter;
-}
 
 MazePainter& mazePainter() {
     return painterInForce != nullptr ? *painterInForce : windowPainter();

@@ -58,9 +58,6 @@ class MazePainter {
     virtual void restorePalette() {}
 };
 
-// Paints on the maze window's own surface.
-MazePainter& windowPainter();
-
 // What the pictures are painted on: the window's surface, or what a test puts in its place.
 MazePainter& mazePainter();
 void setMazePainter(MazePainter* painter);

@@ -1,6 +1,7 @@
 // The window's life: pictures, menus, size, tilt, close.
 #include <algorithm>
 
+#include "core/progress.h"
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_play_test.h"
 #include "platform/window_life.h"
@@ -195,6 +196,24 @@ TEST_F(MazePlay, about_and_exit) {
     EXPECT_EQ(DrawState, 6);
     EXPECT_TRUE(MazePage.isEmpty());
     EXPECT_EQ(platform.Calls.back(), "end");
+}
+
+TEST_F(MazePlay, exit_inside_an_operation_asks_it_to_stop_and_waits_for_it) {
+    open(MazeStyle::Square);
+    finish();
+    platform.OnYield = [] { choose(frm3DMaze.mnuActionItem(4)); };
+    bool hasReturned = false;
+    const auto operation = [&] {
+        StopFlag = 0;
+        yieldToEvents();
+        EXPECT_EQ(DrawState, 6);
+        EXPECT_FALSE(platform.HasEnded);
+        EXPECT_NE(StopFlag, 0);
+        hasReturned = true;
+    };
+    EXPECT_THROW(runHandler(operation), ProcessEnd);
+    EXPECT_TRUE(hasReturned);
+    EXPECT_TRUE(platform.HasEnded);
 }
 
 TEST_F(MazePlay, the_clocks_text_has_a_blank_and_seven_digits) {
