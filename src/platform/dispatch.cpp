@@ -13,6 +13,7 @@ namespace {
 // The running handlers and what waits for them. Written here alone.
 struct DispatchState {
     int depth = 0;                                // handlers on the stack
+    int openYields = 0;                           // yields on the stack
     long yields = 0;                              // yields since the process began
     std::map<int, std::function<void()>> putOff;  // by kind
 };
@@ -23,15 +24,19 @@ void (*stopRequest)() = nullptr;  // bound once
 constexpr int kCloseKey = -1;
 constexpr int kCloseAloneKey = -2;  // and below: each such window closes for itself
 
-struct DepthGuard {
-    DepthGuard() { ++state.depth; }
-    ~DepthGuard() { --state.depth; }
-    DepthGuard(const DepthGuard&) = delete;
-    DepthGuard& operator=(const DepthGuard&) = delete;
+class CountGuard {
+  public:
+    explicit CountGuard(int& count) : count_(count) { ++count_; }
+    ~CountGuard() { --count_; }
+    CountGuard(const CountGuard&) = delete;
+    CountGuard& operator=(const CountGuard&) = delete;
+
+  private:
+    int& count_;
 };
 
 void runGuarded(const std::function<void()>& work) {
-    const DepthGuard guard;
+    const CountGuard guard(state.depth);
     try {
         work();
     } catch (const Failure& failure) {
@@ -151,7 +156,7 @@ void deliverMinimized(Window& window, bool isMinimized) {
 }
 
 bool isNested() {
-    return state.depth > 1;
+    return state.openYields > 0;
 }
 
 bool isHandling() {
@@ -175,6 +180,7 @@ void setStopRequest(void (*request)()) {
 
 void yieldToEvents() {
     ++state.yields;
+    const CountGuard guard(state.openYields);
     services().desktop->yield();
 }
 

@@ -222,6 +222,12 @@ TEST_F(Dispatch, handlers_inside_a_yield_are_nested) {
     EXPECT_EQ(events, (Log{"not nested", "nested", "not nested"}));
 }
 
+// A real platform wraps an event once more.
+TEST_F(Dispatch, a_handler_inside_a_handler_is_not_nested_without_a_yield) {
+    runHandler([] { runHandler([] { events.push_back(isNested() ? "nested" : "not nested"); }); });
+    EXPECT_EQ(events, Log{"not nested"});
+}
+
 TEST_F(Dispatch, yields_are_counted) {
     EXPECT_EQ(yieldCount(), 0);
     yieldToEvents();
