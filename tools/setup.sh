@@ -41,6 +41,7 @@ build() {
     folder=build
     [ "$preset" = release ] || folder=build-$preset
     step "Building ($preset)"
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1  # one cache for every folder that it is built in
     if [ ! -f "$folder/build.ninja" ]; then
         cmake --preset "$preset" -DBUILD_TESTING="$([ "$tests" = yes ] && echo ON || echo OFF)" >/dev/null
     elif [ "$tests" = yes ] && ! grep -q '^BUILD_TESTING:BOOL=ON' "$folder/CMakeCache.txt"; then

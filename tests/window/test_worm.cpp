@@ -89,7 +89,7 @@ TEST(WormWindow, a_close_during_a_fade_cuts_it_short) {
         ASSERT_TRUE(openGame(driver));
         ASSERT_TRUE(runIntoTheWall(driver));
         driver.key("alt+F4");
-        driver.inProgram([] { EXPECT_FALSE(Form2.Loaded); });
+        EXPECT_TRUE(driver.waitFor([] { return !Form2.Loaded; }));
         driver.inProgram([] {
             EXPECT_EQ(Lives, 4);
             EXPECT_TRUE(Form1.Loaded);
