@@ -73,6 +73,11 @@ bool noteStop() {
     return true;
 }
 
+void forgetStop() {
+    finishStop();
+    StopFlag = 0;
+}
+
 void showProgress() {
     if (ProgressDone != ProgressShown) {
         showBar();

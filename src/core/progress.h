@@ -26,6 +26,10 @@ void requestStop();
 // If a stop was asked for: notes it (StopFlag 2) and says true; the worker then returns at once.
 bool noteStop();
 
+// Before a command or a run: a stop that nobody has noted is forgotten, one that was noted and that
+// no tick has seen yet is finished.
+void forgetStop();
+
 // The timer's share: bar, percentage, and which panel shows.
 void showProgress();
 
