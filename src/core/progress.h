@@ -20,7 +20,7 @@ void SetToolsEnabled(bool enabled);
 // Names the work in the panel, says that it runs and how far it goes.
 void announceWork(const std::string& text, std::int32_t total);
 
-// Asks the running operation to stop.
+// Asks the running operation to stop. A stop that was noted stays noted, for the tick to finish.
 void requestStop();
 
 // If a stop was asked for: notes it (StopFlag 2) and says true; the worker then returns at once.

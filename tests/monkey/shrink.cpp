@@ -1,6 +1,7 @@
 #include "shrink.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include "desk_check.h"
 
@@ -9,7 +10,7 @@ namespace ombrelia::monkey {
 namespace {
 
 constexpr unsigned kSecondsOfRun = 120;
-constexpr int kMostRuns = 1500;
+constexpr std::chrono::seconds kMostTime{180};
 
 Lines without(const Lines& lines, std::size_t first, std::size_t count) {
     Lines rest(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(first));
@@ -40,10 +41,11 @@ Outcome runLines(const Lines& lines) {
 
 Lines shrink(Lines lines, const Outcome& wanted) {
     const std::size_t kept = lines.size() - linesInFront(lines);
-    int runs = 0;
-    for (std::size_t size = (lines.size() - kept) / 2; size > 0 && runs < kMostRuns;) {
+    const auto end = std::chrono::steady_clock::now() + kMostTime;
+    const auto isLate = [end] { return std::chrono::steady_clock::now() > end; };
+    for (std::size_t size = (lines.size() - kept) / 2; size > 0 && !isLate();) {
         bool isShorter = false;
-        for (std::size_t first = 0; first + kept < lines.size() && runs < kMostRuns; ++runs) {
+        for (std::size_t first = 0; first + kept < lines.size() && !isLate();) {
             const std::size_t left = lines.size() - kept - first;
             const Lines fewer = without(lines, first, std::min(size, left));
             if (runLines(fewer).isLike(wanted)) {
