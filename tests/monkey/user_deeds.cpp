@@ -15,6 +15,7 @@ namespace ombrelia::monkey {
 
 namespace {
 
+constexpr int kLeastWidth = 132;  // of a window with a frame, as the screen's windows have it
 constexpr int kWidthBits = 11;
 constexpr int kHeightBits = 10;
 
@@ -94,7 +95,7 @@ void User::chooseEntry() {
 void User::resize() {
     const Window& window = anyWindow();
     if (window.HasFrame) {
-        const int width = chance_.skewed(kWidthBits);
+        const int width = kLeastWidth + chance_.skewed(kWidthBits);
         const int height = chance_.skewed(kHeightBits);
         journal_.play(
             "resize " + window.Name + " " + std::to_string(width) + " " + std::to_string(height),
