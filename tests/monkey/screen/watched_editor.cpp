@@ -1,10 +1,11 @@
 // The program as it is, watched: each line on standard input is answered by one line that tells
-// where its windows stand and whether the desk is in order. File dialogs cannot leave the current
+// where its windows stand and whether the desk is in order. The line "restore" first brings
+// minimized windows back, as a panel of the desktop would. File dialogs cannot leave the current
 // folder, and change nothing in it but what is saved.
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QThread>
+#include <algorithm>
 #include <iostream>
 #include <string>
 #include <thread>
@@ -77,15 +78,33 @@ std::string problems() {
     return text;
 }
 
-// Tab between the fields: busy, loaded, problems, title of the dialog, then windows with place.
+void restoreWindows() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->isMinimized()) {
+            widget->showNormal();
+            widget->activateWindow();
+        }
+    }
+}
+
+bool isAnyMinimized() {
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+        return widget->isVisible() && widget->isMinimized();
+    });
+}
+
+// Tab between the fields: busy, loaded, minimized, problems, title of the dialog, then windows with
+// place.
 std::string look() {
     std::string line = isHandling() ? "1\t" : "0\t";
     line += Form1.Loaded && Form1.Visible ? "1\t" : "0\t";
+    line += isAnyMinimized() ? "1\t" : "0\t";
     line += problems() + "\t";
     const QWidget* modal = QApplication::activeModalWidget();
     line += modal != nullptr ? modal->windowTitle().toStdString() + " " : std::string();
     for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible()) {
+        if (widget->isVisible() && !widget->isMinimized()) {
             const QRect place = widget->frameGeometry();
             line += "\t" + std::to_string(place.x()) + " " + std::to_string(place.y()) + " " +
                     std::to_string(place.width()) + " " + std::to_string(place.height()) +
@@ -98,8 +117,14 @@ std::string look() {
 void answerLooks() {
     for (std::string asked; std::getline(std::cin, asked);) {
         std::string line;
-        QMetaObject::invokeMethod(
-            qApp, [&line] { line = look(); }, Qt::BlockingQueuedConnection);
+        const bool restores = asked == "restore";
+        const auto answer = [&line, restores] {
+            if (restores) {
+                restoreWindows();
+            }
+            line = look();
+        };
+        QMetaObject::invokeMethod(qApp, answer, Qt::BlockingQueuedConnection);
         std::cout << line << std::endl;
     }
 }

@@ -76,8 +76,8 @@ class Screen:
 
 class Look:
     def __init__(self, line):
-        busy, loaded, self.problems, self.dialog, *windows = line.rstrip("\n").split("\t")
-        self.is_busy, self.is_loaded = busy == "1", loaded == "1"
+        busy, loaded, minimized, self.problems, self.dialog, *windows = line.rstrip("\n").split("\t")
+        self.is_busy, self.is_loaded, self.is_minimized = busy == "1", loaded == "1", minimized == "1"
         self.windows = [[int(n) for n in w.split()[:4]] for w in windows]
         self.modal = next(([int(n) for n in w.split()[:4]] for w in windows if "modal" in w), None)
 
@@ -103,9 +103,9 @@ class Editor:
             self.answers.put(line)
         self.answers.put(None)
 
-    def look(self):
+    def look(self, asked="look"):
         try:
-            self.process.stdin.write("look\n")
+            self.process.stdin.write(asked + "\n")
             self.process.stdin.flush()
             line = self.answers.get(timeout=PATIENCE)
         except BrokenPipeError:
@@ -213,13 +213,14 @@ def play(path, folder, screen, user, until):
         while time.monotonic() < until:
             for n in range(EVENTS_OF_ROUND // 10):
                 if n % 8 == 0:
-                    look = editor.look()
+                    restores = look.is_minimized and user.chance.random() < 0.3
+                    look = editor.look("restore" if restores else "look")
                 if time.monotonic() > until:
                     break
                 user.act(look)
             look = come_in_order(editor, screen)
             rounds += 1
-            if not look.windows:
+            if not look.windows and not look.is_minimized:
                 break  # every window was closed: the program lives on without one
     except Gone:
         screen.let_go()
