@@ -12,7 +12,8 @@ struct Outcome {
 
     bool isGood() const { return what.empty(); }
 
-    // Whether both ended in the same way, numbers aside.
+    // Whether both ended in the same way: by the same values where one was expected, otherwise
+    // numbers aside.
     bool isLike(const Outcome& other) const;
 };
 
