@@ -144,6 +144,12 @@ void ScreenDriver::click(Control& control, double x, double y) {
     release();
 }
 
+void ScreenDriver::doubleClick(Control& control) {
+    moveTo(control);
+    tell("click --repeat 2 --delay 60 1");
+    rest();
+}
+
 void ScreenDriver::type(const std::string& text) {
     tell("type --delay 8 '" + text + "'");
     rest();

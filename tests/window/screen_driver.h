@@ -32,6 +32,7 @@ class ScreenDriver {
     void release(int button = 1);
     void click(Control& control);
     void click(Control& control, double x, double y);
+    void doubleClick(Control& control);
 
     // The keyboard, to whatever has it.
     void type(const std::string& text);
