@@ -150,6 +150,13 @@ void ScreenDriver::doubleClick(Control& control) {
     rest();
 }
 
+void ScreenDriver::clickAt(const QPoint& place) {
+    tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()));
+    rest(60);
+    press();
+    release();
+}
+
 void ScreenDriver::type(const std::string& text) {
     tell("type --delay 8 '" + text + "'");
     rest();
