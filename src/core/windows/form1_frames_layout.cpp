@@ -84,12 +84,12 @@ constexpr CheckPlace kChecks[] = {
     {button::kStep5, 12, 128, 70, 26},
     {button::kStep2, 12, 176, 70, 26},
     {button::kStep1, 12, 224, 70, 26},
-    {button::kAdvanced3D, 12, 12, 94, 230},
+    {button::kAdvanced3D, 12, 12, 92, 230},
     {button::kUseCursors, 13, 12, 26, 200},
     {button::kColorCursors, 13, 32, 48, 60},
     {button::kBlackWhiteCursors, 13, 120, 48, 120},
     {button::kUseSounds, 13, 12, 70, 200},
-    {button::kShowHelpBox, 13, 12, 94, 200},
+    {button::kShowHelpBox, 13, 12, 92, 200},
 };
 
 struct FrameTextPlace {
