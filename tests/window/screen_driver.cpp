@@ -22,7 +22,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kPatienceMilliseconds = 8000;
+constexpr int kPatienceMilliseconds = 30000;
 
 WindowView* viewOf(const Window& window) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
