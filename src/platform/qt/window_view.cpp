@@ -8,6 +8,7 @@
 #include <QStyleHints>
 #include <QWindow>
 #include <cmath>
+#include <utility>
 
 #include "platform/dispatch.h"
 #include "platform/qt/accessibility.h"
@@ -148,6 +149,10 @@ bool WindowView::sync() {
         setWindowTitle(title);
     }
     bool isDifferent = window_.DockedTo != nullptr && followRecord();
+    if (std::exchange(shownFace_, window_.Face) != window_.Face) {
+        update();
+        isDifferent = true;
+    }
     if (shown_.size() != window_.Controls.size()) {
         shown_.assign(window_.Controls.size(), {});
         update();

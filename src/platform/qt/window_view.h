@@ -99,6 +99,7 @@ class WindowView : public QWidget {
     Window& window_;
     QtDesktop& desktop_;
     double scale_;
+    PictureFace shownFace_;  // of the window itself
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
     std::unique_ptr<FrameParts> frame_;  // of a window that is sized by hand
