@@ -191,19 +191,20 @@ QImage ScreenDriver::pictureOf(Control& control) {
     rest();
     QImage picture;
     inProgram([&] {
-        const QPoint corner = onScreen(control, 0, 0);
-        double border = 0;
-        if (control.Kind == ControlKind::PictureBox) {
-            border = static_cast<PictureBox&>(control).Border;
+        const WindowView* view = viewOf(*control.Owner);
+        QPoint corner = onScreen(control, 0, 0);
+        const double border =
+            control.Kind == ControlKind::PictureBox ? static_cast<PictureBox&>(control).Border : 0;
+        const double scale = std::floor(scaleOf(*view) * 4 + 0.01) / 4;
+        QSize size(static_cast<int>(std::lround((control.Width - 2 * border) * scale)),
+                   static_cast<int>(std::lround((control.Height - 2 * border) * scale)));
+        if (control.Kind == ControlKind::Window) {  // with its menu bar
+            corner = view->mapToGlobal(QPoint(0, 0));
+            size = view->size() * view->devicePixelRatioF();
         }
-        const double scale = std::floor(scaleOf(*viewOf(*control.Owner)) * 4 + 0.01) / 4;
-        const auto side = [&](double units) {
-            return static_cast<int>(std::lround((units - 2 * border) * scale));
-        };
-        picture =
-            QGuiApplication::primaryScreen()
-                ->grabWindow(0, corner.x(), corner.y(), side(control.Width), side(control.Height))
-                .toImage();
+        picture = QGuiApplication::primaryScreen()
+                      ->grabWindow(0, corner.x(), corner.y(), size.width(), size.height())
+                      .toImage();
     });
     return picture;
 }
