@@ -61,35 +61,59 @@ QtDesktop::~QtDesktop() {
     }
 }
 
-QRect QtDesktop::freeArea() const {
-    return QGuiApplication::primaryScreen()->availableGeometry();
-}
-
 void QtDesktop::chooseScale(double widthUnits, double heightUnits) {
-    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
-    const QRect free = freeArea();
-    scale_ = kScales[std::size(kScales) - 1];
-    for (const double candidate : kScales) {
-        if (widthUnits * candidate <= free.width() * ratio &&
-            heightUnits * candidate <= free.height() * ratio) {
-            scale_ = candidate;
-            return;
-        }
-    }
+    widthUnits_ = widthUnits;
+    heightUnits_ = heightUnits;
 }
 
-double QtDesktop::scaleOf(const Window& window) const {
-    if (!window.HasFrame) {
-        return scale_;
-    }
-    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
-    const double free = (freeArea().height() - kFrameHeight) * ratio;
+double QtDesktop::scaleOn(const QScreen& screen) const {
+    const QSizeF free = QSizeF(screen.availableSize()) * screen.devicePixelRatio();
     for (const double candidate : kScales) {
-        if (candidate <= scale_ && window.Height * candidate <= free) {
+        if (widthUnits_ * candidate <= free.width() && heightUnits_ * candidate <= free.height()) {
             return candidate;
         }
     }
     return kScales[std::size(kScales) - 1];
+}
+
+const QScreen& QtDesktop::screenOf(const Window& window) const {
+    const Window& owner = window.DockedTo == nullptr ? window : *window.DockedTo;
+    for (const auto& [other, view] : views_) {
+        if (other == &owner && view->isVisible()) {
+            return *view->screen();
+        }
+    }
+    const WindowView* parent = dialogParent();
+    return parent == nullptr ? *QGuiApplication::primaryScreen() : *parent->screen();
+}
+
+double QtDesktop::scale() const {
+    const WindowView* parent = dialogParent();
+    return scaleOn(parent == nullptr ? *QGuiApplication::primaryScreen() : *parent->screen());
+}
+
+double QtDesktop::scaleOf(const Window& window) const {
+    const QScreen& screen = screenOf(window);
+    const double scale = scaleOn(screen);
+    if (!window.HasFrame) {
+        return scale;
+    }
+    const double free =
+        (screen.availableSize().height() - kFrameHeight) * screen.devicePixelRatio();
+    for (const double candidate : kScales) {
+        if (candidate <= scale && window.Height * candidate <= free) {
+            return candidate;
+        }
+    }
+    return kScales[std::size(kScales) - 1];
+}
+
+void QtDesktop::rescaleDocked(const Window& host) {
+    for (const auto& [window, view] : views_) {
+        if (window->DockedTo == &host) {
+            view->fitScreen();
+        }
+    }
 }
 
 double QtDesktop::dockedWidth(const Window& window) const {

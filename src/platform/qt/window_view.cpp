@@ -78,8 +78,9 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
     }
 }
 
-void WindowView::place() {
-    const double logicalPerUnit = scale_ / devicePixelRatioF();
+void WindowView::takeSize() {
+    ratio_ = desktop_.screenOf(window_).devicePixelRatio();
+    const double logicalPerUnit = scale_ / ratio_;
     const QSize size(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
                      static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
     if (frame_ != nullptr) {
@@ -87,6 +88,29 @@ void WindowView::place() {
     } else {
         setFixedSize(size);
     }
+}
+
+void WindowView::fitScreen() {
+    const double scale = desktop_.scaleOf(window_);
+    const double ratio = desktop_.screenOf(window_).devicePixelRatio();
+    if (scale == scale_ && ratio == ratio_) {
+        return;
+    }
+    scale_ = scale;
+    takeSize();
+    shown_.clear();
+    sync();
+    desktop_.rescaleDocked(window_);
+}
+
+void WindowView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &WindowView::fitScreen,
+            Qt::UniqueConnection);
+}
+
+void WindowView::place() {
+    takeSize();
     if (window_.DockedTo != nullptr) {
         followRecord();
         return;
@@ -96,7 +120,8 @@ void WindowView::place() {
         window_.Top = 0;
         return;
     }
-    const QRect free = desktop_.freeArea();
+    const double logicalPerUnit = scale_ / ratio_;
+    const QRect free = desktop_.screenOf(window_).availableGeometry();
     const double docked = desktop_.dockedWidth(window_) * logicalPerUnit;
     const int left = free.left() + static_cast<int>((free.width() - width() - docked) / 2);
     const int top = free.top() + (free.height() - height()) / 2;

@@ -38,6 +38,9 @@ class WindowView : public QWidget {
     // docks to it.
     void place();
 
+    // Takes the scale and the density of the screen that the window is on now.
+    void fitScreen();
+
     // Starts and stops the system timers to match the record; a resting one starts again.
     void syncTimers();
 
@@ -59,6 +62,7 @@ class WindowView : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
@@ -94,11 +98,13 @@ class WindowView : public QWidget {
     bool moveWindow(QMouseEvent* event);
     void deliverDrag(Event event, const QPointF& units);
     QRect logicalRect(const QRect& device) const;
+    void takeSize();
     int menuHeight() const { return frame_ == nullptr ? 0 : frame_->menuHeight(); }
 
     Window& window_;
     QtDesktop& desktop_;
     double scale_;
+    double ratio_ = 0;       // device pixels to a logical one, at which the window has its size
     PictureFace shownFace_;  // of the window itself
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
