@@ -66,6 +66,7 @@ class HeadlessPlatform : public Dialogs,
 
     // Requests in order, as `dump calls` writes them.
     std::vector<std::string> Calls;
+    bool SoundIsPrepared = false;  // a sound was announced
     bool HasEnded = false;
 
     // Section, then key, then value.
@@ -121,6 +122,7 @@ class HeadlessPlatform : public Dialogs,
     void end() override;
     void failed(const std::string& sentence) override;
     std::string programFile(const std::string& name) override;
+    void prepare() override { SoundIsPrepared = true; }
     void play(const std::string& path) override;
 
   private:

@@ -40,11 +40,6 @@ MouseButton buttonOf(Qt::MouseButton button) {
     }
 }
 
-// A Wayland client neither knows nor chooses where its windows stand.
-bool canPlaceWindows() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 Qt::WindowFlags flagsOf(const Window& window) {
     if (window.DockedTo != nullptr && !canPlaceWindows()) {
         // The one kind of window that a Wayland compositor keeps at a place beside another.
@@ -76,69 +71,6 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
     if (window.Ground != nullptr) {
         frame_ = std::make_unique<FrameParts>(*this, window, desktop);
     }
-}
-
-void WindowView::takeSize() {
-    ratio_ = desktop_.screenOf(window_).devicePixelRatio();
-    const double logicalPerUnit = scale_ / ratio_;
-    const QSize size(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
-                     static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
-    if (frame_ != nullptr) {
-        frame_->place(size, logicalPerUnit);
-    } else {
-        setFixedSize(size);
-    }
-}
-
-void WindowView::fitScreen() {
-    const double scale = desktop_.scaleOf(window_);
-    const double ratio = desktop_.screenOf(window_).devicePixelRatio();
-    if (scale == scale_ && ratio == ratio_) {
-        return;
-    }
-    scale_ = scale;
-    takeSize();
-    shown_.clear();
-    sync();
-    desktop_.rescaleDocked(window_);
-}
-
-void WindowView::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    connect(windowHandle(), &QWindow::screenChanged, this, &WindowView::fitScreen,
-            Qt::UniqueConnection);
-}
-
-void WindowView::place() {
-    takeSize();
-    if (window_.DockedTo != nullptr) {
-        followRecord();
-        return;
-    }
-    if (!canPlaceWindows()) {
-        window_.Left = 0;
-        window_.Top = 0;
-        return;
-    }
-    const double logicalPerUnit = scale_ / ratio_;
-    const QRect free = desktop_.screenOf(window_).availableGeometry();
-    const double docked = desktop_.dockedWidth(window_) * logicalPerUnit;
-    const int left = free.left() + static_cast<int>((free.width() - width() - docked) / 2);
-    const int top = free.top() + (free.height() - height()) / 2;
-    move(std::max(free.left(), left), std::max(free.top(), top));
-    window_.Left = pos().x() / logicalPerUnit;
-    window_.Top = pos().y() / logicalPerUnit;
-}
-
-bool WindowView::followRecord() {
-    const double logicalPerUnit = scale_ / devicePixelRatioF();
-    const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
-                        static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
-    if (target == pos()) {
-        return false;
-    }
-    move(target);
-    return true;
 }
 
 WindowView::Shown WindowView::lookOf(const Control& control) const {
@@ -412,13 +344,6 @@ void WindowView::leaveEvent(QEvent* /*event*/) {
 void WindowView::closeEvent(QCloseEvent* event) {
     event->ignore();
     desktop_.run([this] { deliverClose(window_); });
-}
-
-void WindowView::moveEvent(QMoveEvent* /*event*/) {
-    const double logicalPerUnit = scale_ / devicePixelRatioF();
-    window_.Left = pos().x() / logicalPerUnit;
-    window_.Top = pos().y() / logicalPerUnit;
-    desktop_.wakeTimers();
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {

@@ -17,6 +17,9 @@ namespace ombrelia {
 
 class QtDesktop;
 
+// A Wayland client neither knows nor chooses where its windows stand.
+bool canPlaceWindows();
+
 class WindowView : public QWidget {
   public:
     WindowView(Window& window, QtDesktop& desktop);
