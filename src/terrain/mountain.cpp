@@ -136,7 +136,7 @@ bool shapeMountain(int x, int y, const MountainShape& shape) {
 }
 
 void BuildMountain(std::int16_t x, std::int16_t y) {
-    StopFlag = 0;
+    forgetStop();
     SetToolsEnabled(false);
     const int height = SliderValues(kHeightSlider).Value;
     const MountainShape shape{height, SliderValues(kTopSizeSlider).Value, sideFor(height),

@@ -82,6 +82,9 @@ class HeadlessPlatform : public Dialogs,
     std::vector<std::string> Failures;
     bool ThrowOnFailure = false;
 
+    // Takes the place of what ThrowOnFailure says, where it is there.
+    std::function<void(const std::string& sentence)> OnFailure;
+
     // Caption that activeWindowCaption gives.
     std::string ActiveCaption = "Ombrelia Terrain Editor";
 

@@ -1,10 +1,15 @@
+#include <chrono>
 #include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <random>
 #include <sstream>
 #include <string>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -248,6 +253,44 @@ TEST(ini_store, killed_while_writing_the_file_is_the_old_one_or_the_new_one) {
             }
         }
         ASSERT_EQ(entries, 400);
+    }
+}
+
+TEST(ini_store, a_file_that_another_program_holds_is_told_and_not_waited_for_twice) {
+    const Folder folder;
+    IniStore store(folder.file());
+    store.write("Settings", "a", "1");
+    ASSERT_EQ(store.commit(), "");
+    const int lock = ::open((folder.file() + ".lock").c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(::flock(lock, LOCK_EX), 0);
+    store.write("Settings", "a", "2");
+    EXPECT_NE(store.commit().find("Another program holds the file"), std::string::npos);
+    const auto began = std::chrono::steady_clock::now();
+    EXPECT_NE(store.commit(), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(500));
+    EXPECT_EQ(IniStore(folder.file()).read("Settings", "a", ""), "1");
+    ::close(lock);
+    EXPECT_EQ(store.commit(), "") << "the change was kept";
+    EXPECT_EQ(IniStore(folder.file()).read("Settings", "a", ""), "2");
+}
+
+TEST(ini_store, without_a_home_the_account_has_one) {
+    const char* home = std::getenv("HOME");
+    const char* config = std::getenv("XDG_CONFIG_HOME");
+    const std::string homeBefore = home == nullptr ? "" : home;
+    const std::string configBefore = config == nullptr ? "" : config;
+    ::unsetenv("XDG_CONFIG_HOME");
+    const std::string account = ::getpwuid(::getuid())->pw_dir;
+    const std::string expected = account + "/.config/quillbyte/ombrelia-terrain-editor.ini";
+    ::unsetenv("HOME");
+    EXPECT_EQ(userSettingsPath(), expected);
+    ::setenv("HOME", "", 1);
+    EXPECT_EQ(userSettingsPath(), expected);
+    ::setenv("HOME", "/somewhere", 1);
+    EXPECT_EQ(userSettingsPath(), "/somewhere/.config/quillbyte/ombrelia-terrain-editor.ini");
+    home == nullptr ? ::unsetenv("HOME") : ::setenv("HOME", homeBefore.c_str(), 1);
+    if (config != nullptr) {
+        ::setenv("XDG_CONFIG_HOME", configBefore.c_str(), 1);
     }
 }
 
