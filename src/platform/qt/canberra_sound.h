@@ -16,7 +16,7 @@ class CanberraSound : public Sound {
   private:
     struct Queue;
 
-    static void playAll(std::shared_ptr<Queue> queue);
+    static void playAll(const std::shared_ptr<Queue>& queue);
 
     // Shared with the thread, which outlives everything. Made at the first sound.
     std::shared_ptr<Queue> queue_;
