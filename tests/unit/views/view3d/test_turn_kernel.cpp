@@ -144,6 +144,24 @@ TEST_F(TurnKernel, what_needs_the_long_way_is_told) {
     EXPECT_FALSE(isUsable());
 }
 
+// A point close before or behind the eye is 10^9 pixels away and more.
+TEST_F(TurnKernel, a_point_beside_the_eye_lies_far_beyond_the_picture) {
+    PointRun run;
+    for (const int near : {0, 9, 257}) {
+        const double depth = RotatePoint(near, 3, HeightMap(near, 3) / 2.0, viewCentre()).ry;
+        for (const double hair : {1e-5, -1e-5, 1.5e-5}) {
+            ViewZoom = 356 - depth + hair;
+            ASSERT_TRUE(run.project({true, 3, 0, 1, 258}, cameraNow(viewCentre())));
+            EXPECT_GT(std::abs(std::int64_t{run.place(near).y}), std::int64_t{1} << 30);
+            for (int n = 0; n < 258; ++n) {
+                const PixelPoint place = plainPlace(n, 3, HeightMap(n, 3), viewCentre());
+                ASSERT_EQ(run.place(n).x, place.x) << n << ' ' << near << ' ' << hair;
+                ASSERT_EQ(run.place(n).y, place.y) << n << ' ' << near << ' ' << hair;
+            }
+        }
+    }
+}
+
 TEST_F(TurnKernel, a_run_is_projected_anew_when_anything_changes) {
     PointRun run;
     RunCourse course{true, 3, 0, 1, 258};
