@@ -75,6 +75,9 @@ class HeadlessPlatform : public Dialogs,
     // The control whose drag began last; none before the first.
     Control* Dragged = nullptr;
 
+    // The window that a press on its title moves; none before the first.
+    const Window* Moved = nullptr;
+
     // What fileExists and isNameTaken answer for a path; the disk answers for the others.
     std::map<std::string, bool> Files;
 

@@ -103,7 +103,8 @@ struct CanberraSound::Queue {
     }
 };
 
-void CanberraSound::playAll(std::shared_ptr<Queue> queue) {
+// The pointer is the one that the thread was begun with, a copy of its own.
+void CanberraSound::playAll(const std::shared_ptr<Queue>& queue) {
     Player player;
     while (true) {
         const Request request = queue->take();

@@ -17,7 +17,7 @@ class CanberraSound : public Sound {
   private:
     struct Queue;
 
-    static void playAll(std::shared_ptr<Queue> queue);
+    static void playAll(const std::shared_ptr<Queue>& queue);
 
     // Shared with the thread, which outlives everything. Made when the first sound is near.
     std::shared_ptr<Queue> queue_;

@@ -87,6 +87,7 @@ TEST_F(CursorsSounds, the_cursor_options_change_nothing_on_the_screen) {
         OptionStates(button::kUseCursors).State = static_cast<std::int16_t>(state);
         deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::None, 9, 9);
         deliverMouse(Form1.NTool(2), Event::MouseMove, MouseButton::None, 2, 2);
+        deliverMouse(Form1.ScrollDown(0), Event::MouseMove, MouseButton::None, 2, 2);
         deliver(Form1.Timer1, Event::Timer);
         EXPECT_EQ(CurrentCursorId, 0);
     }
