@@ -22,11 +22,22 @@ void yieldAsOnScreen() {
     }
 }
 
+// The same terrain in every run, so that figures can be compared.
+class FixedRandom : public GeneratorRandom {
+  public:
+    void seedFromClock() override { seed(1); }
+};
+
 }  // namespace
 
-HeadlessPlatform& benchDesk(int mapSize) {
+HeadlessPlatform& benchPlatform() {
     static HeadlessPlatform platform;
-    static GeneratorRandom random;
+    return platform;
+}
+
+HeadlessPlatform& benchDesk(int mapSize) {
+    HeadlessPlatform& platform = benchPlatform();
+    static FixedRandom random;
     platform.install();
     services().random = &random;
     platform.OnYield = yieldAsOnScreen;
