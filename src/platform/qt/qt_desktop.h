@@ -9,6 +9,7 @@
 #include "platform/qt/input_keeper.h"
 #include "platform/qt/skin.h"
 #include "platform/services.h"
+#include "platform/yield_clock.h"
 
 namespace ombrelia {
 
@@ -84,6 +85,7 @@ class QtDesktop : public Desktop {
     // Shows what changed; true if anything had.
     bool sync();
     void handled();
+    void tickAfterLongRun();
     bool runOrEnd(const std::function<void()>& event);
     void showDocked(Window& host);
     void waitUntil(const std::function<bool()>& isDone, qint64 milliseconds);
@@ -91,7 +93,9 @@ class QtDesktop : public Desktop {
     Skin skin_;
     double scale_ = 1;
     std::map<Window*, WindowView*> views_;
-    QElapsedTimer sinceEvents_;
+    YieldClock yieldClock_;
+    QElapsedTimer sinceSync_;        // of a yield
+    bool hasHandledEvents_ = false;  // in a yield of the running handler
     QElapsedTimer sinceRefresh_;
     InputKeeper inputKeeper_;
     int yieldMilliseconds_ = 0;
