@@ -35,7 +35,7 @@ class Results:
             return
         if entry.get("error_occurred"):
             sys.exit(f"{entry['name']}: {entry['error_message']}")
-        name = entry["run_name"].split("/min_time:")[0].removesuffix("/manual_time")
+        name = entry["run_name"].split("/iterations:")[0].removesuffix("/manual_time")
         # Others share the machine: the processor's own time is what they disturb least.
         kind = "real_time" if entry.get("clock") == "wall" or "manual_time" in entry["run_name"] \
             else "cpu_time"

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/large_memory.h"
 #include "platform/numeric.h"
 #include "platform/wide_vectors.h"
 
@@ -14,7 +15,13 @@ void Surface::setSize(int width, int height) {
     width_ = std::max(0, width);
     height_ = std::max(0, height);
     scaleToPixels();
-    pixels_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), ground());
+    const std::size_t count = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
+    if (count > pixels_.capacity()) {
+        pixels_ = {};
+        pixels_.reserve(count);
+        preferLargePages(pixels_.data(), count * sizeof(Pixel));
+    }
+    pixels_.assign(count, ground());
     changed();
 }
 
