@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QPointer>
 #include <QScreen>
 #include <QThread>
 #include <QUrl>
 #include <QWindow>
 #include <utility>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/dispatch.h"
@@ -21,8 +23,8 @@ namespace ombrelia {
 
 namespace {
 
-// Events are handled at most this often while a handler runs; a yield in between returns at once.
-constexpr qint64 kYieldNanoseconds = 8'000'000;
+// Changes are looked for at most this often while a handler runs; events are heard more often.
+constexpr qint64 kSyncMilliseconds = 8;
 
 // How long a window that says "please wait" is waited for before the work begins.
 constexpr int kFirstPictureMilliseconds = 60;
@@ -52,7 +54,7 @@ void settleRegisters() {}
 }  // namespace
 
 QtDesktop::QtDesktop() {
-    sinceEvents_.start();
+    sinceSync_.start();
 }
 
 QtDesktop::~QtDesktop() {
@@ -152,10 +154,28 @@ bool QtDesktop::runOrEnd(const std::function<void()>& event) {
 
 void QtDesktop::run(const std::function<void()>& event) {
     if (runOrEnd(event)) {
+        tickAfterLongRun();
         wakeTimers();
         sync();
         handled();
         settleRegisters();
+    }
+}
+
+// What a run leaves to the tick after it, as the light that turns green, shall not wait for the
+// next frame.
+void QtDesktop::tickAfterLongRun() {
+    if (isHandling() || !std::exchange(hasHandledEvents_, false)) {
+        return;
+    }
+    std::vector<QPointer<WindowView>> views;
+    for (const auto& [window, view] : views_) {
+        views.emplace_back(view);
+    }
+    for (const QPointer<WindowView>& view : views) {
+        if (!view.isNull() && view->window().Loaded) {
+            view->tickAtOnce();
+        }
     }
 }
 
@@ -309,14 +329,18 @@ void QtDesktop::waitUntil(const std::function<bool()>& isDone, qint64 millisecon
 void QtDesktop::yield() {
     if (yieldMilliseconds_ > 0) {
         QThread::msleep(static_cast<unsigned long>(yieldMilliseconds_));
-    } else if (sinceEvents_.nsecsElapsed() < kYieldNanoseconds) {
+    } else if (!yieldClock_.isDue()) {
         return;
     }
     wakeTimers();
-    sync();
+    if (sinceSync_.elapsed() >= kSyncMilliseconds) {
+        sync();
+        sinceSync_.start();
+    }
     QCoreApplication::processEvents();
+    hasHandledEvents_ = true;
     settleRegisters();
-    sinceEvents_.start();
+    yieldClock_.restart();
 }
 
 void QtDesktop::beginWindowMove(Window& window) {

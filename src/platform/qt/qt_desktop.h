@@ -9,6 +9,7 @@
 #include "platform/qt/input_keeper.h"
 #include "platform/qt/skin.h"
 #include "platform/services.h"
+#include "platform/yield_clock.h"
 
 namespace ombrelia {
 
@@ -88,6 +89,7 @@ class QtDesktop : public Desktop {
     // Shows what changed; true if anything had.
     bool sync();
     void handled();
+    void tickAfterLongRun();
     bool runOrEnd(const std::function<void()>& event);
     double scaleOn(const QScreen& screen) const;
     void showDocked(Window& host);
@@ -97,7 +99,9 @@ class QtDesktop : public Desktop {
     double widthUnits_ = 0;
     double heightUnits_ = 0;
     std::map<Window*, WindowView*> views_;
-    QElapsedTimer sinceEvents_;
+    YieldClock yieldClock_;
+    QElapsedTimer sinceSync_;        // of a yield
+    bool hasHandledEvents_ = false;  // in a yield of the running handler
     QElapsedTimer sinceRefresh_;
     InputKeeper inputKeeper_;
     int yieldMilliseconds_ = 0;

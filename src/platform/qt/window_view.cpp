@@ -21,12 +21,6 @@ namespace ombrelia {
 
 namespace {
 
-// A timer of the logic fires at most once in a display frame.
-constexpr int kFrameMilliseconds = 16;
-
-// Ticks without any change after which a timer of every frame rests.
-constexpr int kQuietTicks = 4;
-
 MouseButton buttonOf(Qt::MouseButton button) {
     switch (button) {
         case Qt::LeftButton:
@@ -127,23 +121,6 @@ bool WindowView::sync() {
         frame_->sync(scale_ / devicePixelRatioF());
     }
     return isDifferent;
-}
-
-void WindowView::syncTimers() {
-    for (Control* control : window_.Controls) {
-        if (control->Kind != ControlKind::Timer) {
-            continue;
-        }
-        auto* timer = static_cast<Timer*>(control);
-        SystemTimer& system = timers_[timer];
-        system.quietTicks = 0;
-        const bool isWanted = window_.Loaded && timer->Enabled && timer->Interval > 0;
-        if (isWanted && !system.basic.isActive()) {
-            system.basic.start(std::max(kFrameMilliseconds, timer->Interval), this);
-        } else if (!isWanted) {
-            system.basic.stop();
-        }
-    }
 }
 
 void WindowView::paintEvent(QPaintEvent* event) {
@@ -354,34 +331,6 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
     EventArgs args;
     args.KeyCode = virtualKeyOf(*event);
     desktop_.run([&] { deliver(window_, Event::KeyDown, args); });
-}
-
-void WindowView::timerEvent(QTimerEvent* event) {
-    if (desktop_.isWaiting()) {
-        return;
-    }
-    for (auto& [timer, system] : timers_) {
-        if (system.basic.timerId() == event->timerId()) {
-            tick(*timer, system);
-            return;
-        }
-    }
-}
-
-void WindowView::tick(Timer& timer, SystemTimer& system) {
-    const QPointer<WindowView> self(this);
-    const bool isChanged = desktop_.runTick([&timer] { deliver(timer, Event::Timer); });
-    if (self.isNull()) {
-        return;
-    }
-    if (timer.Interval >= kFrameMilliseconds) {
-        syncTimers();  // the tick may have switched its own timer off or on again
-        return;
-    }
-    system.quietTicks = isChanged ? 0 : system.quietTicks + 1;
-    if (system.quietTicks >= kQuietTicks && !isHandling()) {
-        system.basic.stop();
-    }
 }
 
 void WindowView::resizeEvent(QResizeEvent* event) {

@@ -47,6 +47,9 @@ class WindowView : public QWidget {
     // Starts and stops the system timers to match the record; a resting one starts again.
     void syncTimers();
 
+    // Fires the timers of every frame at once; the next tick comes a frame later.
+    void tickAtOnce();
+
     // The press that is being handled may become a move of the window.
     void armMove() { isMoveArmed_ = true; }
 

@@ -1,32 +1,40 @@
 #include "bench_desk.h"
 
-#include <chrono>
-
 #include "app/bindings.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
+#include "platform/yield_clock.h"
 
 namespace ombrelia {
 
 namespace {
 
-// As the real desktop does it: events are handled only when 8 ms have passed.
+// As the real desktop does it, without the events.
 void yieldAsOnScreen() {
-    using Clock = std::chrono::steady_clock;
-    static Clock::time_point last = Clock::now();
-    const Clock::time_point now = Clock::now();
-    if (now - last > std::chrono::milliseconds(8)) {
-        last = now;
+    static YieldClock clock;
+    if (clock.isDue()) {
+        clock.restart();
     }
 }
 
+// The same terrain in every run, so that figures can be compared.
+class FixedRandom : public GeneratorRandom {
+  public:
+    void seedFromClock() override { seed(1); }
+};
+
 }  // namespace
 
-HeadlessPlatform& benchDesk(int mapSize) {
+HeadlessPlatform& benchPlatform() {
     static HeadlessPlatform platform;
-    static GeneratorRandom random;
+    return platform;
+}
+
+HeadlessPlatform& benchDesk(int mapSize) {
+    HeadlessPlatform& platform = benchPlatform();
+    static FixedRandom random;
     platform.install();
     services().random = &random;
     platform.OnYield = yieldAsOnScreen;

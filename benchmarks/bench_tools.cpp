@@ -2,7 +2,7 @@
 // in its order, nothing kept, nothing skipped. Both over the same ground, laid anew each time.
 #include <benchmark/benchmark.h>
 
-#include "bench_desk.h"
+#include "bench_gestures.h"
 #include "core/button_numbers.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
@@ -19,107 +19,9 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kPoints = 599;
-constexpr int kLast = kLargeSize;
-constexpr int kMoves = 500;
-
-// Hills and valleys without a random source, 0..255.
-std::int16_t groundAt(int x, int y) {
-    return static_cast<std::int16_t>((x * x / 40 + y * y / 50 + (x * y) / 30 + 7 * (x % 5)) % 256);
-}
-
-void layGround() {
-    for (int y = 0; y <= HeightGrid::kLast; ++y) {
-        for (int x = 0; x <= HeightGrid::kLast; ++x) {
-            HeightMap(x, y) = groundAt(x, y);
-        }
-    }
-}
-
-void layGround(slow::World& world) {
-    for (int y = 0; y <= HeightGrid::kLast; ++y) {
-        for (int x = 0; x <= HeightGrid::kLast; ++x) {
-            world.height(x, y) = groundAt(x, y);
-        }
-    }
-}
-
-// A point of a path that goes over the whole map to and fro, from edge to edge.
-int pathX(int n) {
-    const int phase = (n * 13) % (2 * kLast);
-    return phase <= kLast ? phase : 2 * kLast - phase;
-}
-int pathY(int n) {
-    return n * kLast / kPoints;
-}
-
-void recordPath() {
-    for (int n = 1; n <= kPoints; ++n) {
-        StrokeX(n) = static_cast<std::int16_t>(pathX(n));
-        StrokeY(n) = static_cast<std::int16_t>(pathY(n));
-    }
-    StrokeCount = kPoints + 1;
-}
-
-void recordPath(slow::World& world) {
-    for (int n = 1; n <= kPoints; ++n) {
-        world.strokeX[static_cast<std::size_t>(n)] = pathX(n);
-        world.strokeY[static_cast<std::size_t>(n)] = pathY(n);
-    }
-    world.strokeCount = kPoints + 1;
-}
-
-void recordDiagonal() {
-    for (int n = 1; n <= 5; ++n) {
-        StrokeX(n) = StrokeY(n) = 0;
-    }
-    StrokeX(6) = StrokeY(6) = kLast;
-    StrokeCount = 6;
-}
-
-void recordDiagonal(slow::World& world) {
-    world.strokeX = {};
-    world.strokeY = {};
-    world.strokeX[6] = world.strokeY[6] = kLast;
-    world.strokeCount = 6;
-}
-
-void turnOn(int first, int last, int on) {
-    for (int i = first; i <= last; ++i) {
-        OptionStates(i).State = i == on ? kOn : kUp;
-    }
-}
-
-void openDesk() {
-    benchDesk(kLargeSize);
-    OptionStates(button::kAutoRefresh).State = kUp;
-    DrawHeight = 90;
-    SliderValues(1).Value = SliderValues(2).Value = 20;
-    SliderValues(3).Value = SliderValues(11).Value = 10;
-    SliderValues(6).Value = 255;
-    SliderValues(7).Value = 30;
-    SliderValues(8).Value = 30;
-    SliderValues(12).Value = 15;
-    SliderValues(13).Value = 25;
-    turnOn(button::kMountainVertical, button::kMountainSmooth, button::kMountainSmooth);
-    turnOn(button::kCanyonVertical, button::kCanyonSmooth, button::kCanyonSmooth);
-    OptionStates(button::kRiverInMiddle).State = kOn;
-}
-
-slow::World slowWorld() {
-    openDesk();
-    slow::World world;
-    world.mapSize = kLargeSize;
-    world.drawHeight = 90;
-    world.pencilThickness = world.lineThickness = 20;
-    // Its yields cost what the product's cost.
-    world.onYield = [](slow::World&) { yieldToEvents(); };
-    return world;
-}
-
 template <typename Work>
 void measure(benchmark::State& state, Work work) {
-    openDesk();
+    openToolDesk(kLargeSize);
     for (auto _ : state) {
         state.PauseTiming();
         layGround();
@@ -131,7 +33,7 @@ void measure(benchmark::State& state, Work work) {
 
 template <typename Work>
 void measureSlow(benchmark::State& state, Work work) {
-    slow::World world = slowWorld();
+    slow::World world = slowToolWorld(kLargeSize);
     for (auto _ : state) {
         state.PauseTiming();
         layGround(world);
@@ -143,13 +45,14 @@ void measureSlow(benchmark::State& state, Work work) {
 
 void pencil(benchmark::State& state) {
     measure(state, [] {
-        recordPath();
+        recordPath(kLongestPath);
         DrawStroke(kPencilStroke);
     });
+    state.counters["samples"] = pencilSamples(20);
 }
 void pencilSlow(benchmark::State& state) {
     measureSlow(state, [](slow::World& world) {
-        recordPath(world);
+        recordPath(world, kLongestPath);
         slow::drawStroke(world, kPencilStroke);
     });
 }
@@ -158,13 +61,14 @@ BENCHMARK(pencilSlow)->Unit(benchmark::kMicrosecond);
 
 void line(benchmark::State& state) {
     measure(state, [] {
-        recordDiagonal();
+        recordDiagonal(kLargeSize);
         DrawStroke(kLineStroke);
     });
+    state.counters["samples"] = lineSamples(20);
 }
 void lineSlow(benchmark::State& state) {
     measureSlow(state, [](slow::World& world) {
-        recordDiagonal(world);
+        recordDiagonal(world, kLargeSize);
         slow::drawStroke(world, kLineStroke);
     });
 }
@@ -173,6 +77,7 @@ BENCHMARK(lineSlow)->Unit(benchmark::kMicrosecond);
 
 void mountain(benchmark::State& state) {
     measure(state, [] { BuildMountain(128, 128); });
+    state.counters["samples"] = mountainSamples(30, 85);
 }
 void mountainSlow(benchmark::State& state) {
     measureSlow(state, [](slow::World& world) {
@@ -184,13 +89,14 @@ BENCHMARK(mountainSlow)->Unit(benchmark::kMicrosecond);
 
 void canyon(benchmark::State& state) {
     measure(state, [] {
-        recordPath();
+        recordPath(kLongestPath);
         CarveCanyon();
     });
+    state.counters["samples"] = canyonSamples(25, 30, 15);
 }
 void canyonSlow(benchmark::State& state) {
     measureSlow(state, [](slow::World& world) {
-        recordPath(world);
+        recordPath(world, kLongestPath);
         slow::carveCanyon(world, {25, 15, button::kCanyonSmooth, true});
     });
 }
@@ -199,6 +105,7 @@ BENCHMARK(canyonSlow)->Unit(benchmark::kMicrosecond);
 
 void plainObject(benchmark::State& state) {
     measure(state, [] { BuildPlain(128, 128); });
+    state.counters["samples"] = 30 * 360.0;
 }
 void plainObjectSlow(benchmark::State& state) {
     measureSlow(state, [](slow::World& world) { slow::buildPlain(world, 128, 128, 30); });
@@ -206,26 +113,19 @@ void plainObjectSlow(benchmark::State& state) {
 BENCHMARK(plainObject)->Unit(benchmark::kMicrosecond);
 BENCHMARK(plainObjectSlow)->Unit(benchmark::kMicrosecond);
 
-// A drag of 500 moves.
-float dragX(int n) {
-    return 20 + static_cast<float>(n) * 0.43F;
-}
-float dragY(int n) {
-    return 40 + static_cast<float>(n % 97) * 1.7F;
-}
-
 void raiseDrag(benchmark::State& state) {
     measure(state, [] {
-        for (int n = 0; n < kMoves; ++n) {
+        for (int n = 0; n < kDragMoves; ++n) {
             RaiseTerrain(dragX(n), dragY(n));
         }
     });
+    state.counters["samples"] = kDragMoves * 15 * 72.0;
 }
 void raiseDragSlow(benchmark::State& state) {
-    openDesk();
+    openToolDesk(kLargeSize);
     slow::Pictures pictures{Form1.MapView.Canvas, Form1.Mapview2.Canvas};
     measureSlow(state, [&](slow::World& world) {
-        for (int n = 0; n < kMoves; ++n) {
+        for (int n = 0; n < kDragMoves; ++n) {
             slow::raiseTerrain(world, pictures, dragX(n), dragY(n), 10);
         }
     });
@@ -235,16 +135,17 @@ BENCHMARK(raiseDragSlow)->Unit(benchmark::kMicrosecond);
 
 void lowerDrag(benchmark::State& state) {
     measure(state, [] {
-        for (int n = 0; n < kMoves; ++n) {
+        for (int n = 0; n < kDragMoves; ++n) {
             LowerTerrain(dragX(n), dragY(n));
         }
     });
+    state.counters["samples"] = kDragMoves * 10 * 72.0;
 }
 void lowerDragSlow(benchmark::State& state) {
-    openDesk();
+    openToolDesk(kLargeSize);
     slow::Pictures pictures{Form1.MapView.Canvas, Form1.Mapview2.Canvas};
     measureSlow(state, [&](slow::World& world) {
-        for (int n = 0; n < kMoves; ++n) {
+        for (int n = 0; n < kDragMoves; ++n) {
             slow::lowerTerrain(world, pictures, dragX(n), dragY(n), 10);
         }
     });

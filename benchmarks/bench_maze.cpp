@@ -9,6 +9,7 @@
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_generator.h"
 #include "games/maze/maze_picture.h"
+#include "games/maze/maze_seed.h"
 #include "games/maze/maze_solver.h"
 #include "games/maze/maze_view.h"
 #include "games/maze/plain_maze.h"
@@ -59,6 +60,20 @@ void searchMazesPlainly(benchmark::State& state) {
         benchmark::DoNotOptimize(maze.adjacency);
     }
     state.SetItemsProcessed(state.iterations() * kCandidates);
+}
+
+// The random numbers of such a search alone, a choice of 24 of 29 for each room.
+void drawMazes(benchmark::State& state) {
+    MazeRandom<29> random({1, 2, 3, 4, 5, 6, 7, 8});
+    for (auto _ : state) {
+        for (int n = 0; n < kCandidates * kRows * columnsOf(false); ++n) {
+            int drawn = random();
+            while (drawn >= 24) {
+                drawn = random();
+            }
+            benchmark::DoNotOptimize(drawn);
+        }
+    }
 }
 
 // The textbook's: squares, then diamonds with the mean of what lies inside.
@@ -146,6 +161,7 @@ void paintMaze(benchmark::State& state) {
 
 BENCHMARK(searchMazes)->ArgName("hex")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(searchMazesPlainly)->ArgName("hex")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(drawMazes)->Unit(benchmark::kMicrosecond);
 BENCHMARK(tenDiamondSquares)->Unit(benchmark::kMicrosecond);
 BENCHMARK(paintMaze)->ArgName("hex")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 

@@ -1,4 +1,5 @@
-// The fractal generator next to a textbook diamond-square and to ImageMagick's plasma.
+// The fractal generator next to the plain second one of the tests, to a textbook diamond-square and
+// to ImageMagick's plasma.
 #include <Magick++.h>
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -6,32 +7,13 @@
 
 #include "bench_desk.h"
 #include "core/objects.h"
+#include "platform/services.h"
 #include "terrain/fractal/fractal_terrain.h"
+#include "terrain/fractal/plain_fractal.h"
 
 namespace ombrelia {
 
 namespace {
-
-void generate(benchmark::State& state) {
-    benchDesk(kLargeSize);
-    SliderValues(14).Value = static_cast<std::int16_t>(state.range(0));
-    for (auto _ : state) {
-        double h = 0.1;
-        GenerateFractalTerrain(h, SliderValues(10).Value);
-        benchmark::DoNotOptimize(HeightMap.data());
-    }
-}
-BENCHMARK(generate)->Arg(8)->Arg(5)->Unit(benchmark::kMicrosecond);
-
-// The whole command: the generator and the refresh after it.
-void generateCommand(benchmark::State& state) {
-    benchDesk(kLargeSize);
-    SliderValues(14).Value = 8;
-    for (auto _ : state) {
-        GenerateCommand();
-    }
-}
-BENCHMARK(generateCommand)->Unit(benchmark::kMicrosecond);
 
 struct SmallGenerator {
     std::uint32_t state = 2463534242U;
@@ -42,6 +24,60 @@ struct SmallGenerator {
         return state * (1.0 / 4294967296.0) - 0.5;
     }
 };
+
+void generate(benchmark::State& state) {
+    benchDesk(kLargeSize);
+    SliderValues(14).Value = static_cast<std::int16_t>(state.range(0));
+    for (auto _ : state) {
+        double h = 0.1;
+        GenerateFractalTerrain(h, SliderValues(10).Value);
+        benchmark::DoNotOptimize(HeightMap.data());
+    }
+}
+BENCHMARK(generate)->DenseRange(1, 8)->Unit(benchmark::kMicrosecond);
+
+plain::FractalInput plainInput(int detail, SmallGenerator& random) {
+    plain::FractalInput input;
+    input.detail = detail;
+    input.mapSize = kLargeSize;
+    input.draw = [&random] { return static_cast<float>(random() + 0.5); };
+    return input;
+}
+
+void generatePlainly(benchmark::State& state) {
+    SmallGenerator random;
+    const plain::FractalInput input = plainInput(static_cast<int>(state.range(0)), random);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(plain::generateFractal(input));
+    }
+}
+BENCHMARK(generatePlainly)->Arg(8)->Arg(5)->Unit(benchmark::kMicrosecond);
+
+// What no generator can leave out: its draws, and a store into each cell.
+void drawsAndStores(benchmark::State& state) {
+    benchDesk(kLargeSize);
+    SmallGenerator random;
+    const long draws =
+        plain::generateFractal(plainInput(static_cast<int>(state.range(0)), random)).draws;
+    std::vector<float> values(static_cast<std::size_t>(draws));
+    std::vector<std::int16_t> heights(HeightGrid::kSide * HeightGrid::kSide);
+    for (auto _ : state) {
+        services().random->draw(values);
+        std::fill(heights.begin(), heights.end(), static_cast<std::int16_t>(values[0] * 255));
+        benchmark::DoNotOptimize(heights.data());
+    }
+}
+BENCHMARK(drawsAndStores)->DenseRange(1, 8)->Unit(benchmark::kMicrosecond);
+
+// The whole command: the generator and the refresh after it.
+void generateCommand(benchmark::State& state) {
+    benchDesk(kLargeSize);
+    SliderValues(14).Value = 8;
+    for (auto _ : state) {
+        GenerateCommand();
+    }
+}
+BENCHMARK(generateCommand)->Unit(benchmark::kMicrosecond);
 
 // Every point of 257 x 257 doubles by the textbook's averages, then mapped to heights.
 void textbookDiamondSquare(benchmark::State& state) {
