@@ -249,7 +249,7 @@ std::string IniStore::commit() {
     if (changes_.empty()) {
         return {};
     }
-    const std::string failure = writeMerged();
+    std::string failure = writeMerged();
     if (failure.empty()) {
         changes_.clear();
     }

@@ -30,7 +30,7 @@ QString pictureIn(const QTemporaryDir& folder, const char* name) {
             picture.setPixel(x, y, qRgb(grey, grey, grey));
         }
     }
-    const QString path = folder.filePath(QString::fromLatin1(name));
+    QString path = folder.filePath(QString::fromLatin1(name));
     EXPECT_TRUE(picture.save(path, nullptr, 95)) << name;
     return path;
 }

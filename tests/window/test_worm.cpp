@@ -6,6 +6,7 @@
 
 #include "core/objects.h"
 #include "core/windows/form2.h"
+#include "core/windows/help_box.h"
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
@@ -21,11 +22,19 @@ bool openGame(ScreenDriver& driver) {
     if (!openEditor(driver, button::kSizeSmall)) {
         return false;
     }
-    driver.inProgram([] {
-        HeightMap.fill(77);
-        runHandler(openWormGame);
+    driver.inProgram([] { HeightMap.fill(77); });
+    driver.click(Form1.NTool(button::kHelp + kOverlayOffset));
+    if (!driver.waitForWindow(HelpBox)) {
+        return false;
+    }
+    driver.click(HelpBox.LTool(button::kHelpAbout));
+    driver.doubleClick(HelpBox.Label41);
+    // The game has the keyboard, and what it shows at first is over.
+    return driver.waitForWindow(Form2) && driver.waitFor([] {
+        const QWidget* active = QApplication::activeWindow();
+        return !isHandling() && active != nullptr &&
+               active->windowTitle().toStdString() == Form2.Caption;
     });
-    return driver.waitForWindow(Form2);
 }
 
 void putFoodAway() {

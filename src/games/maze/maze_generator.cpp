@@ -27,7 +27,8 @@ void computeHexagonal(double w, double h) {
         --NumColumns;
     }
     NumColumns = std::max(NumColumns, kLeastHexColumns);
-    const double wide = (NumColumns - 1) * 3 / 2 + 2 + kThickness / r;
+    const int wholeSides = (NumColumns - 1) * 3 / 2;  // an odd number of columns leaves no rest
+    const double wide = wholeSides + 2 + kThickness / r;
     NumRows = std::max(floorToInt16((wide * (h / w) - kThickness) / r), kLeastHexRows);
 }
 

@@ -152,7 +152,9 @@ std::span<const MazeDelta> directionsOf(MazeStyle style) {
 
 MazeCorner worldStep(MazeStyle style, MazeCorner from, int x, int y, int x2, int y2) {
     if (style == MazeStyle::Square) {
-        return {from.x + (x2 - x) / 2, from.y + (y2 - y) / 2};
+        const int columns = (x2 - x) / 2;
+        const int rows = (y2 - y) / 2;
+        return {from.x + columns, from.y + rows};
     }
     const double across = x2 > x ? kHexStep : -kHexStep;
     switch (y2 - y) {

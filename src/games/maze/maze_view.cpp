@@ -131,7 +131,8 @@ void ComputeView(MazeStyle style) {
         ViewXMax = NumColumns + kThickness;
         ViewYMax = NumRows + kThickness;
     } else {
-        ViewXMax = (NumColumns - 1) * 3 / 2 + 2 + kThickness / kRoot3;
+        const int wholeSides = (NumColumns - 1) * 3 / 2;  // an odd number of columns leaves no rest
+        ViewXMax = wholeSides + 2 + kThickness / kRoot3;
         ViewYMax = NumRows * kRoot3 + kThickness;
     }
     ScaleX = (pictureWidth() - 1) / ((ViewXMax / (ViewXMax - 2)) * ViewXMax);

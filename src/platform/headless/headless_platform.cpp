@@ -192,7 +192,9 @@ void HeadlessPlatform::yield() {
     }
 }
 
-void HeadlessPlatform::beginWindowMove(Window& /*window*/) {}
+void HeadlessPlatform::beginWindowMove(Window& window) {
+    Moved = &window;
+}
 
 void HeadlessPlatform::beginDrag(Control& source) {
     Dragged = &source;

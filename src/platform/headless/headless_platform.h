@@ -66,6 +66,7 @@ class HeadlessPlatform : public Dialogs,
 
     // Requests in order, as `dump calls` writes them.
     std::vector<std::string> Calls;
+    bool SoundIsPrepared = false;  // a sound was announced
     bool HasEnded = false;
 
     // Section, then key, then value.
@@ -73,6 +74,9 @@ class HeadlessPlatform : public Dialogs,
 
     // The control whose drag began last; none before the first.
     Control* Dragged = nullptr;
+
+    // The window that a press on its title moves; none before the first.
+    const Window* Moved = nullptr;
 
     // What fileExists and isNameTaken answer for a path; the disk answers for the others.
     std::map<std::string, bool> Files;
@@ -124,6 +128,7 @@ class HeadlessPlatform : public Dialogs,
     void end() override;
     void failed(const std::string& sentence) override;
     std::string programFile(const std::string& name) override;
+    void prepare() override { SoundIsPrepared = true; }
     void play(const std::string& path) override;
 
   private:

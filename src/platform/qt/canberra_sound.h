@@ -11,14 +11,15 @@ namespace ombrelia {
 class CanberraSound : public Sound {
   public:
     std::string programFile(const std::string& name) override;
+    void prepare() override;
     void play(const std::string& path) override;
 
   private:
     struct Queue;
 
-    static void playAll(std::shared_ptr<Queue> queue);
+    static void playAll(const std::shared_ptr<Queue>& queue);
 
-    // Shared with the thread, which outlives everything. Made at the first sound.
+    // Shared with the thread, which outlives everything. Made when the first sound is near.
     std::shared_ptr<Queue> queue_;
 };
 

@@ -34,6 +34,15 @@ TEST_F(Buttons, each_kind_has_its_picture_and_each_state_its_face) {
     }
 }
 
+TEST_F(Buttons, a_kind_without_faces_is_not_painted) {
+    paint(12, kOn);
+    OptionStates(12).Kind = 3;
+    const double left = Form1.LTool(12).Left;
+    paint(12, kUp);
+    EXPECT_EQ(Form1.NTool(12).Face, (PictureFace{Picture::Stand, kOn}));
+    EXPECT_EQ(Form1.LTool(12).Left, left);
+}
+
 TEST_F(Buttons, what_lies_on_a_face_moves_when_it_is_pressed) {
     for (const int state : {0, 1, 2}) {
         const double pressed = state == 2 ? 1 : 0;

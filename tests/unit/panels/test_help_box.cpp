@@ -249,6 +249,86 @@ TEST_F(Help, a_held_arrow_stops_short_of_the_end) {
     EXPECT_EQ(HelpBox.ScrollDown(20).Face, (PictureFace{Picture::DownArrow, 0}));
 }
 
+TEST_F(Help, the_upper_arrow_leads_back_to_the_beginning) {
+    GotoTopic(4);
+    deliverMouse(HelpBox.ScrollDown(20), Event::MouseDown, MouseButton::Left, 5, 5);
+    deliver(HelpBox.Timer1, Event::Timer);
+    deliver(HelpBox.Timer1, Event::Timer);
+    deliverMouse(HelpBox.ScrollDown(20), Event::MouseUp, MouseButton::Left, 5, 5);
+    deliverMouse(HelpBox.ScrollUp(20), Event::MouseDown, MouseButton::Left, 5, 5);
+    EXPECT_EQ(HelpBox.ScrollUp(20).Face, (PictureFace{Picture::UpArrow, 1}));
+    deliver(HelpBox.Timer1, Event::Timer);
+    EXPECT_EQ(SliderValues(20).Value, 9);
+    EXPECT_EQ(HelpBox.Topic(4).Top, -9);
+    for (int tick = 0; tick < 3; ++tick) {
+        deliver(HelpBox.Timer1, Event::Timer);
+        EXPECT_EQ(SliderValues(20).Value, 0);
+    }
+    deliverMouse(HelpBox.ScrollUp(20), Event::MouseUp, MouseButton::Left, 5, 5);
+    EXPECT_EQ(HelpBox.ScrollUp(20).Face, (PictureFace{Picture::UpArrow, 0}));
+}
+
+TEST_F(Help, the_thumb_stays_when_the_pointer_leaves_the_track) {
+    GotoTopic(4);
+    Image& thumb = HelpBox.Scroller(20);
+    const double top = thumb.Top;
+    deliverMouse(thumb, Event::MouseDown, MouseButton::Left, 5, 5);
+    deliverMouse(thumb, Event::MouseMove, MouseButton::Left, 5, -1);
+    EXPECT_EQ(thumb.Top, top);
+    deliverMouse(thumb, Event::MouseMove, MouseButton::Left, 5, 2000);
+    EXPECT_EQ(thumb.Top, top);
+    EXPECT_EQ(SliderValues(20).Value, 0);
+}
+
+TEST_F(Help, the_pointer_lights_one_button_at_a_time) {
+    const auto point = [](Control& control) {
+        deliverMouse(control, Event::MouseMove, MouseButton::None, 3, 3);
+    };
+    point(HelpBox.NTool(97));
+    EXPECT_EQ(OptionStates(97).State, kHover);
+    point(HelpBox.LTool(92));
+    EXPECT_EQ(OptionStates(97).State, kUp);
+    EXPECT_EQ(OptionStates(92).State, kHover);
+    deliverMouse(HelpBox.NTool(90), Event::MouseDown, MouseButton::Left, 3, 3);
+    point(HelpBox.NTool(90));  // a pressed one stays pressed
+    EXPECT_EQ(OptionStates(92).State, kUp);
+    EXPECT_EQ(OptionStates(90).State, kOn);
+    for (Control* ground :
+         {static_cast<Control*>(&HelpBox), static_cast<Control*>(&HelpBox.Topic(1)),
+          static_cast<Control*>(&HelpBox.Picture1)}) {
+        point(HelpBox.NTool(98));
+        EXPECT_EQ(OptionStates(98).State, kHover);
+        point(*ground);
+        EXPECT_EQ(OptionStates(98).State, kUp);
+    }
+}
+
+TEST_F(Help, a_held_push_button_goes_down_under_the_pointer) {
+    const auto drag = [](Control& control) {
+        deliverMouse(control, Event::MouseMove, MouseButton::Left, 3, 3);
+    };
+    drag(HelpBox.NTool(97));
+    EXPECT_EQ(OptionStates(97).State, kOn);
+    drag(HelpBox.NTool(97));
+    EXPECT_EQ(OptionStates(97).State, kOn);
+    drag(HelpBox.NTool(93));  // a page's button is marked by a press alone
+    EXPECT_EQ(OptionStates(93).State, kHover);
+}
+
+TEST_F(Help, the_right_button_presses_nothing) {
+    deliverMouse(HelpBox.NTool(93), Event::MouseDown, MouseButton::Right, 3, 3);
+    deliverMouse(HelpBox.NTool(93), Event::MouseUp, MouseButton::Right, 3, 3);
+    EXPECT_EQ(OptionStates(93).State, kUp);
+    EXPECT_EQ(HelpGroupCurrent(1), 0);
+}
+
+TEST_F(Help, a_left_press_on_the_title_moves_the_window) {
+    deliverMouse(HelpBox.Label14, Event::MouseDown, MouseButton::Right, 3, 3);
+    EXPECT_EQ(platform.Moved, nullptr);
+    deliverMouse(HelpBox.Label14, Event::MouseDown, MouseButton::Left, 3, 3);
+    EXPECT_EQ(platform.Moved, &HelpBox);
+}
+
 }  // namespace
 
 }  // namespace ombrelia

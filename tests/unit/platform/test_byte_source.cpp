@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <vector>
 
+#include "platform/bmp_header.h"
 #include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/surface.h"
@@ -42,6 +43,20 @@ TEST_F(FileSourceTest, gives_the_bytes_of_any_place) {
     EXPECT_EQ(bytes, (std::vector<std::uint8_t>{'6', '7', '8', '9'}));
     EXPECT_THROW(source.read(7, bytes), PictureFailure);
     EXPECT_THROW(source.read(~std::uint64_t{0}, bytes), PictureFailure);
+}
+
+TEST_F(FileSourceTest, a_bitmap_is_told_by_its_first_two_bytes) {
+    const auto begins = [](const std::string& text) {
+        const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+        MemorySource source("x", bytes);
+        return isBitmap(source);
+    };
+    EXPECT_TRUE(begins("BM"));
+    EXPECT_TRUE(begins("BMxyz"));
+    EXPECT_FALSE(begins("B"));
+    EXPECT_FALSE(begins(""));
+    EXPECT_FALSE(begins("MB"));
+    EXPECT_FALSE(begins("BA"));
 }
 
 TEST_F(FileSourceTest, a_file_that_shrinks_is_cut_off) {

@@ -172,6 +172,14 @@ TEST_F(Dispatch, the_handler_is_told_the_subscript) {
     EXPECT_EQ(lastArgs.Index, 17);
 }
 
+TEST_F(Dispatch, a_handler_is_known_to_run_until_it_returns) {
+    EXPECT_FALSE(isHandling());
+    bool wasHandling = false;
+    runHandler([&] { wasHandling = isHandling(); });
+    EXPECT_TRUE(wasHandling);
+    EXPECT_FALSE(isHandling());
+}
+
 TEST_F(Dispatch, a_failure_ends_its_handler_only) {
     runHandler([] {
         events.push_back("before");

@@ -111,6 +111,49 @@ TEST(ini_store, random_texts_survive) {
     EXPECT_FALSE(isMalformed);
 }
 
+TEST(ini_store, lines_of_another_system_are_read_alike) {
+    bool isMalformed = true;
+    const IniSections expected = {{"Settings", {{"a", "1"}, {"b", "2"}}}};
+    EXPECT_EQ(parseIni("[Settings]\r\na=1\r\nb=2\r\n", isMalformed), expected);
+    EXPECT_FALSE(isMalformed);
+}
+
+// While it lives a variable of the environment has this value, or none.
+class Variable {
+  public:
+    Variable(const char* name, const char* value) : name_(name) {
+        const char* before = std::getenv(name);
+        wasSet_ = before != nullptr;
+        before_ = wasSet_ ? before : "";
+        value != nullptr ? ::setenv(name, value, 1) : ::unsetenv(name);
+    }
+    ~Variable() { wasSet_ ? ::setenv(name_, before_.c_str(), 1) : ::unsetenv(name_); }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+  private:
+    const char* name_;
+    bool wasSet_ = false;
+    std::string before_;
+};
+
+TEST(ini_store, the_users_settings_stand_in_the_folder_of_configurations) {
+    const std::string end = "/quillbyte/ombrelia-terrain-editor.ini";
+    const Variable home("HOME", "/home/ada");
+    {
+        const Variable folder("XDG_CONFIG_HOME", "/elsewhere");
+        EXPECT_EQ(userSettingsPath(), "/elsewhere" + end);
+    }
+    {
+        const Variable relative("XDG_CONFIG_HOME", "not/absolute");
+        EXPECT_EQ(userSettingsPath(), "/home/ada/.config" + end);
+    }
+    const Variable none("XDG_CONFIG_HOME", nullptr);
+    EXPECT_EQ(userSettingsPath(), "/home/ada/.config" + end);
+    const Variable homeless("HOME", nullptr);
+    EXPECT_EQ(userSettingsPath(), "./.config" + end);
+}
+
 TEST(ini_store, entries_come_sorted_by_key) {
     const Folder folder;
     IniStore store(folder.file());

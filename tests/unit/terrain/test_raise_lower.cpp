@@ -85,6 +85,16 @@ TEST_F(RaiseLower, both_agree_over_heights_beyond_the_range) {
     }
 }
 
+TEST_F(RaiseLower, a_peak_below_0_ends_with_its_first_circle) {
+    layFlat(40);
+    HeightMap(30, 30) = -40;
+    HeightMap(29, 30) = -200;
+    HeightMap(27, 30) = -200;
+    apply(Tool::Raise, 30, 30, 10);
+    EXPECT_EQ(HeightMap(29, 30), 0);  // painted, and so cut back
+    EXPECT_EQ(HeightMap(27, 30), -200);
+}
+
 TEST_F(RaiseLower, both_agree_with_colours_that_leave_gaps) {
     Dice dice(6);
     for (int move = 0; move < 60; ++move) {

@@ -92,6 +92,17 @@ TEST_F(Stroke, lines_along_the_edges_and_diagonals_agree) {
     }
 }
 
+// Step 69 of 92 stands at x = 60.50000000000001, which single precision takes for 60.5.
+TEST_F(Stroke, a_step_a_hair_beyond_the_middle_belongs_to_the_next_cell) {
+    openMap(129);
+    layFlat(40);
+    setPens(1, 90);
+    recordLine(20, 20, 74, 95);
+    draw(kLineStroke);
+    EXPECT_EQ(HeightMap(61, 76), 90);
+    EXPECT_EQ(HeightMap(60, 76), 40);
+}
+
 TEST_F(Stroke, a_stop_at_every_yield_leaves_what_the_slow_way_leaves) {
     for (const int mode : {kPencilStroke, kLineStroke}) {
         Meddling meddling;

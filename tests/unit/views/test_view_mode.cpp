@@ -9,6 +9,7 @@ namespace ombrelia {
 
 namespace {
 
+// The modes by their numbers: 1 from above, 2 in perspective.
 class ViewMode : public EditorTest {};
 
 TEST_F(ViewMode, perspective_has_a_scale_of_its_own) {
@@ -17,7 +18,7 @@ TEST_F(ViewMode, perspective_has_a_scale_of_its_own) {
     view.ScaleHeight = 9;
     view.ScaleLeft = 9;
     view.ScaleTop = 9;
-    SwitchViewMode(kMode3D);
+    SwitchViewMode(2);
     EXPECT_EQ(view.ScaleWidth, 257);
     EXPECT_EQ(view.ScaleHeight, 257);
     EXPECT_EQ(view.ScaleLeft, 0);
@@ -33,10 +34,10 @@ TEST_F(ViewMode, perspective_has_a_scale_of_its_own) {
 }
 
 TEST_F(ViewMode, the_view_from_above_takes_zoom_and_pan_again) {
-    SwitchViewMode(kMode3D);
+    SwitchViewMode(2);
     MapZoom = -20;
     MapPanX = 20;
-    SwitchViewMode(kMode2D);
+    SwitchViewMode(1);
     EXPECT_EQ(Form1.MapView.Canvas.ScaleWidth, 297);
     EXPECT_EQ(Form1.MapView.Canvas.ScaleLeft, 0);
     EXPECT_EQ(Form1.MapView.Canvas.ScaleTop, -20);

@@ -7,7 +7,9 @@
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "editor_fixture.h"
+#include "panels/color_editor.h"
 #include "platform/dispatch.h"
+#include "platform/window_life.h"
 
 namespace ombrelia {
 
@@ -41,6 +43,23 @@ TEST_F(DeskEvents, a_tick_colours_the_title_by_the_active_window) {
     tick();
     EXPECT_EQ(Form1.Label11.ForeColor, TitleActiveColor);
     EXPECT_NE(TitleActiveColor, rgb(70, 70, 255));
+}
+
+TEST_F(DeskEvents, a_left_press_on_a_title_moves_its_window) {
+    mouse(Form1.Label11, Event::MouseDown, 2, 2, MouseButton::Right);
+    EXPECT_EQ(platform.Moved, nullptr);
+    mouse(Form1.Label11, Event::MouseDown, 2, 2);
+    EXPECT_EQ(platform.Moved, &Form1);
+    showWindow(SizeSelect);
+    mouse(SizeSelect.Label11, Event::MouseDown, 2, 2);
+    EXPECT_EQ(platform.Moved, &SizeSelect);
+}
+
+TEST_F(DeskEvents, a_key_over_the_list_of_colour_sets_is_swallowed) {
+    EventArgs args;
+    args.KeyCode = 65;
+    Combo1_KeyDown(args);
+    EXPECT_EQ(args.KeyCode, 0);
 }
 
 TEST_F(DeskEvents, a_held_arrow_scrolls_with_each_tick) {

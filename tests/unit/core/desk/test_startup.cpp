@@ -44,6 +44,20 @@ TEST_F(Startup, the_splash_gives_way_to_the_size_dialog_by_itself) {
     EXPECT_EQ(platform.Calls, (Log{"show frmSplash", "unload frmSplash", "show SizeSelect"}));
 }
 
+TEST_F(Startup, a_failure_before_the_editor_is_open_repairs_nothing) {
+    runHandler(startEditor);
+    ProgressState = 1;
+    StopFlag = 1;
+    repairAfterFailure();
+    EXPECT_EQ(ProgressState, 1);
+    EXPECT_EQ(StopFlag, 1);
+    startWith(80);
+    ProgressState = 1;
+    repairAfterFailure();
+    EXPECT_EQ(ProgressState, 2);
+    EXPECT_EQ(StopFlag, 0);
+}
+
 TEST_F(Startup, a_choice_opens_the_editor) {
     startWith(80);
     EXPECT_EQ(platform.Calls, (Log{"show frmSplash", "unload frmSplash", "show SizeSelect",

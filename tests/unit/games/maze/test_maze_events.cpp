@@ -39,6 +39,17 @@ TEST_F(MazePlay, a_hexagonal_picture_has_bands_caps_and_a_row_a_tick) {
     EXPECT_EQ(text(), "Use Home, Up Arrow, PgUp, End, Down Arrow, and PgDn to solve.");
 }
 
+TEST_F(MazePlay, the_line_between_the_entries_does_nothing) {
+    open(MazeStyle::Square);
+    finish();
+    const MazeGrid page = MazePage;
+    deliver(frm3DMaze.mnuActionItem(3), Event::Click);
+    EXPECT_EQ(DrawState, 5);
+    EXPECT_EQ(Solved, 0);
+    EXPECT_EQ(MazePage, page);
+    EXPECT_TRUE(frm3DMaze.Visible);
+}
+
 TEST_F(MazePlay, clear_keeps_the_maze_and_new_makes_another) {
     open(MazeStyle::Square);
     finish();

@@ -163,6 +163,16 @@ TEST_F(FractalBytesOf, the_band_around_the_mean_goes_from_102_to_230) {
     EXPECT_EQ(narrow[3], 198);  // 255 * 0.775 = 197.625
 }
 
+// 0.7 in single precision lies below this value.
+TEST_F(FractalBytesOf, the_band_ends_where_double_precision_says) {
+    std::vector<double> values(10, 0.5);
+    values[0] = 0.69999999;
+    values[8] = 0.30000001;
+    std::vector<std::uint8_t> bytes(20, 0);
+    FractalValuesToBytes(values, 2, bytes);
+    EXPECT_EQ(bytes[0], 229);  // 229.499994
+}
+
 TEST_F(FractalBytesOf, spikes_count_in_the_mean) {
     std::vector<double> values(10, 0.0);
     values[8] = 9;  // the last point has no bytes of its own

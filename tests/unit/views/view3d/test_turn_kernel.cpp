@@ -144,6 +144,32 @@ TEST_F(TurnKernel, what_needs_the_long_way_is_told) {
     EXPECT_FALSE(isUsable());
 }
 
+// A point close before or behind the eye is 10^9 pixels away and more, along one axis or both.
+TEST_F(TurnKernel, a_point_beside_the_eye_lies_far_beyond_the_picture) {
+    PointRun run;
+    const auto isFar = [](std::int32_t pixel) { return std::abs(std::int64_t{pixel}) >= 1 << 30; };
+    for (const int near : {0, 9, 257}) {
+        const RotatedPoint point = RotatePoint(near, 3, HeightMap(near, 3) / 2.0, viewCentre());
+        const auto panX = static_cast<std::int16_t>(-std::lround(point.rx));
+        const auto panY = static_cast<std::int16_t>(std::lround(point.rz));
+        for (const double hair : {1e-5, -1e-5}) {
+            ViewZoom = 356 - point.ry + hair;
+            for (const auto& [x, y] : {std::pair<int, int>{0, 0}, {panX, 0}, {0, panY}}) {
+                ViewPanX = static_cast<std::int16_t>(x);
+                ViewPanY = static_cast<std::int16_t>(y);
+                ASSERT_TRUE(run.project({true, 3, 0, 1, 258}, cameraNow(viewCentre())));
+                EXPECT_EQ(isFar(run.place(near).x), x == 0) << near;
+                EXPECT_EQ(isFar(run.place(near).y), y == 0) << near;
+                for (int n = 0; n < 258; ++n) {
+                    const PixelPoint place = plainPlace(n, 3, HeightMap(n, 3), viewCentre());
+                    ASSERT_EQ(run.place(n).x, place.x) << n << ' ' << near << ' ' << hair;
+                    ASSERT_EQ(run.place(n).y, place.y) << n << ' ' << near << ' ' << hair;
+                }
+            }
+        }
+    }
+}
+
 TEST_F(TurnKernel, a_run_is_projected_anew_when_anything_changes) {
     PointRun run;
     RunCourse course{true, 3, 0, 1, 258};
