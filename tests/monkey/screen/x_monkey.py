@@ -21,6 +21,9 @@ import time
 PATIENCE = 60  # seconds for an answer, on a busy machine
 PAUSE = 0.004  # seconds between two events, about
 EVENTS_OF_ROUND = 1500
+NEW_START = 0.1  # chance after a round
+ROUNDS_WITHOUT_EDITOR = 3
+LEAST_SHOWN = 60  # pixels of a window that can be hit
 KEYS = ["Return", "Escape", "Tab", "space", "Left", "Right", "Up", "Down", "Home", "End", "Prior",
         "Next", "a", "b", "m", "s", "1", "7", "period", "BackSpace", "F10"]
 
@@ -48,6 +51,11 @@ class Screen:
         self.height = self.x.XDisplayHeight(self.display, 0)
         self.held = set()
         self.events = 0
+
+    def shows(self, window):
+        x, y, width, height = window
+        return (min(x + width, self.width) - max(x, 0) > LEAST_SHOWN
+                and min(y + height, self.height) - max(y, 0) > LEAST_SHOWN)
 
     def flush(self):
         self.events += 1
@@ -206,8 +214,10 @@ def come_in_order(editor, screen):
 
 
 def play(path, folder, screen, user, until):
+    """One life of the program. It ends too when its windows were closed or moved off the screen,
+    by the window manager's keys, so that a user by chance does not find them again."""
     editor = Editor(path, folder)
-    rounds = 0
+    rounds = missing = 0
     try:
         look = editor.look()
         while time.monotonic() < until:
@@ -220,8 +230,11 @@ def play(path, folder, screen, user, until):
                 user.act(look)
             look = come_in_order(editor, screen)
             rounds += 1
-            if not look.windows and not look.is_minimized:
-                break  # every window was closed: the program lives on without one
+            missing = 0 if look.is_loaded else missing + 1
+            if missing == ROUNDS_WITHOUT_EDITOR or user.chance.random() < NEW_START:
+                break
+            if not look.is_minimized and not any(screen.shows(w) for w in look.windows):
+                break
     except Gone:
         screen.let_go()
     finally:
