@@ -53,6 +53,17 @@ bool runIntoTheWall(ScreenDriver& driver) {
     return driver.waitFor(isHandling);
 }
 
+// A busy window manager can miss its key.
+bool closeByKey(ScreenDriver& driver) {
+    bool isClosed = false;
+    for (int i = 0; i < 10 && !isClosed; ++i) {
+        driver.key("alt+F4");
+        driver.rest(200);
+        driver.inProgram([&] { isClosed = !Form2.Loaded; });
+    }
+    return isClosed;
+}
+
 }  // namespace
 
 TEST(WormWindow, real_keys_steer_the_worm_and_the_map_stays) {
@@ -97,8 +108,7 @@ TEST(WormWindow, a_close_during_a_fade_cuts_it_short) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openGame(driver));
         ASSERT_TRUE(runIntoTheWall(driver));
-        driver.key("alt+F4");
-        EXPECT_TRUE(driver.waitFor([] { return !Form2.Loaded; }));
+        EXPECT_TRUE(closeByKey(driver));
         driver.inProgram([] {
             EXPECT_EQ(Lives, 4);
             EXPECT_TRUE(Form1.Loaded);

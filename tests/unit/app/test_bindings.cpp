@@ -43,6 +43,28 @@ std::vector<std::string> allTexts() {
     return texts;
 }
 
+// Looks at the single values before the first test, as the process begins: a test's own process is
+// a reset one.
+class FirstLook : public testing::Environment {
+  public:
+    static const std::vector<std::string>& found() { return names(); }
+    void SetUp() override {
+        for (const ValueRow& row : allValues()) {
+            const std::string text = row.subscripts == 0 ? textOf(row, row.first) : "";
+            if (!text.empty() && text != "0") {
+                names().push_back(std::string(row.name) + " = " + text);
+            }
+        }
+    }
+
+  private:
+    static std::vector<std::string>& names() {
+        static std::vector<std::string> list;
+        return list;
+    }
+};
+testing::Environment* const kFirstLook = testing::AddGlobalTestEnvironment(new FirstLook);
+
 // Every field of a part as one text.
 std::string fieldsOf(const Control& control) {
     std::ostringstream text;
@@ -146,6 +168,11 @@ TEST_F(Bindings, no_value_stands_in_two_rows) {
                        [&](void* element) { isNew = elements.insert(element).second && isNew; });
         EXPECT_TRUE(isNew) << row.name << ' ' << row.field;
     }
+}
+
+TEST_F(Bindings, a_process_begins_with_every_value_at_0_or_empty) {
+    ASSERT_NE(kFirstLook, nullptr);
+    EXPECT_EQ(FirstLook::found(), std::vector<std::string>{});
 }
 
 TEST_F(Bindings, names_of_values_are_unique) {

@@ -78,7 +78,7 @@ TEST(CellRow, each_way_paints_what_a_look_at_each_cell_paints) {
 TEST(CellRow, one_different_cell_makes_a_row_dirty) {
     RowOfChance chance(1, 258, 257, 1);
     EXPECT_FALSE(isDirty(chance.row()));
-    for (const std::size_t x : {0, 131, 257}) {
+    for (const std::size_t x : std::array<std::size_t, 3>{0, 131, 257}) {
         RowOfChance changed = chance;
         changed.shadows[x] = -2;
         EXPECT_TRUE(isDirty(changed.row()));
@@ -89,7 +89,7 @@ TEST(CellRow, one_height_beyond_the_colours_puts_a_row_out_of_range) {
     RowOfChance chance(1, 258, 257, 1);
     EXPECT_TRUE(isInRange(chance.row()));
     for (const int height : {-1, 256, -32768, 32767}) {
-        for (const std::size_t x : {0, 131, 257}) {
+        for (const std::size_t x : std::array<std::size_t, 3>{0, 131, 257}) {
             RowOfChance changed = chance;
             changed.heights[x] = static_cast<std::int16_t>(height);
             EXPECT_FALSE(isInRange(changed.row())) << height << " at " << x;
