@@ -100,6 +100,22 @@ TEST_F(MazeTrack, a_closed_window_ticks_no_more_and_opens_with_squares) {
     EXPECT_TRUE(frm3DMaze.mnuStyleItem(1).Checked);
 }
 
+// The clock is read once before the search and once after each candidate.
+TEST_F(MazeTrack, the_window_searches_for_a_quarter_of_a_second) {
+    const struct {
+        double step;
+        int candidates;
+    } rows[] = {{0.125, 2}, {0.2421875, 2}, {0.25, 1}, {0.2578125, 1}};
+    for (const auto& row : rows) {
+        open(MazeStyle::Square);
+        platform.SecondsPerReading = row.step;
+        platform.Seconds = 43200;
+        tick();
+        EXPECT_EQ((platform.Seconds - 43200) / row.step, row.candidates + 1) << row.step;
+        choose(frm3DMaze.mnuActionItem(0));
+    }
+}
+
 // Rooms of 360 twips, 15 twips a pixel; the rows follow the shape of what the bars leave.
 TEST_F(MazeTrack, the_window_sets_the_number_of_rooms) {
     open(MazeStyle::Square, 640, 300);
