@@ -242,6 +242,11 @@ TEST(StoredNumber, goes_into_16_bits_or_is_0) {
     EXPECT_EQ(storedInt16(-1.5), -2);
     EXPECT_EQ(storedInt16(32767), 32767);
     EXPECT_EQ(storedInt16(-32768), -32768);
+    EXPECT_EQ(storedInt16(32767.49), 32767);
+    EXPECT_EQ(storedInt16(32767.5), 0);
+    EXPECT_EQ(storedInt16(32767.55), 0);
+    EXPECT_EQ(storedInt16(-32768.5), -32768);
+    EXPECT_EQ(storedInt16(-32768.55), 0);
     EXPECT_EQ(storedInt16(40000), 0);
     EXPECT_EQ(storedInt16(-1e300), 0);
 }

@@ -105,6 +105,40 @@ TEST_F(MapGestures, a_drag_ends_at_the_second_move_beyond_the_same_edge) {
     EXPECT_EQ(DrawHeight, 120);  // the release picks at the cut place
 }
 
+TEST_F(MapGestures, a_drag_that_ends_beyond_an_edge_keeps_its_place_along_it) {
+    const struct {
+        int x, y;
+        double pixelX, pixelY;
+    } rows[] = {{20, 65, pixel(20), 300},
+                {20, 0, pixel(20), -30},
+                {65, 20, 300, pixel(20)},
+                {0, 20, -30, pixel(20)}};
+    for (const auto& row : rows) {
+        HeightMap(row.x, row.y) = 120;
+        press(pixel(10), pixel(10));
+        move(row.pixelX, row.pixelY);
+        DrawHeight = 1;
+        move(row.pixelX, row.pixelY);
+        EXPECT_EQ(MouseState, 0);
+        EXPECT_EQ(DrawHeight, 120) << row.x << ' ' << row.y;
+    }
+}
+
+TEST_F(MapGestures, the_outermost_cells_can_be_picked_and_no_others) {
+    for (const auto& [x, y] : {std::pair{0, 20}, {20, 0}, {65, 20}, {20, 65}, {0, 0}, {65, 65}}) {
+        HeightMap(x, y) = 99;
+        DrawHeight = 1;
+        press(pixel(x), pixel(y));
+        EXPECT_EQ(DrawHeight, 99) << x << ' ' << y;
+        release(pixel(x), pixel(y));
+    }
+    for (const auto& [x, y] : {std::pair{-1, 20}, {20, -1}, {66, 20}, {20, 66}}) {
+        DrawHeight = 1;
+        press(pixel(x), pixel(y));
+        EXPECT_EQ(DrawHeight, 1) << x << ' ' << y;
+    }
+}
+
 TEST_F(MapGestures, another_edge_gives_another_move) {
     press(pixel(10), pixel(20));
     move(300, pixel(20));
@@ -253,6 +287,15 @@ TEST_F(PickerStrip, a_drag_ends_above_the_strip) {
     strip(Event::MouseMove, -1);
     EXPECT_EQ(DrawHeight, 155);
     EXPECT_EQ(MouseState, 0);
+}
+
+TEST_F(PickerStrip, a_release_at_the_very_top_picks_255) {
+    strip(Event::MouseDown, 100);
+    strip(Event::MouseUp, 0);
+    EXPECT_EQ(DrawHeight, 255);
+    strip(Event::MouseDown, 100);
+    strip(Event::MouseUp, -1);
+    EXPECT_EQ(DrawHeight, 155);
 }
 
 TEST_F(PickerStrip, a_move_without_a_press_picks_nothing) {

@@ -44,6 +44,17 @@ TEST_F(Startup, the_splash_gives_way_to_the_size_dialog_by_itself) {
     EXPECT_EQ(platform.Calls, (Log{"show frmSplash", "unload frmSplash", "show SizeSelect"}));
 }
 
+TEST_F(Startup, each_button_of_the_size_dialog_goes_out_behind_the_pointer) {
+    runHandler(startEditor);
+    deliver(frmSplash, Event::Click);
+    for (int i = 80; i <= 85; ++i) {
+        deliverMouse(SizeSelect.NTool(i), Event::MouseMove, MouseButton::None, 2, 2);
+        EXPECT_EQ(OptionStates(i).State, 1) << i;
+        deliverMouse(SizeSelect.Picture1, Event::MouseMove, MouseButton::None, 2, 2);
+        EXPECT_EQ(OptionStates(i).State, 0) << i;
+    }
+}
+
 TEST_F(Startup, a_failure_before_the_editor_is_open_repairs_nothing) {
     runHandler(startEditor);
     ProgressState = 1;

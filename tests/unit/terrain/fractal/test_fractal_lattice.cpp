@@ -173,6 +173,16 @@ TEST_F(FractalBytesOf, the_band_ends_where_double_precision_says) {
     EXPECT_EQ(bytes[0], 229);  // 229.499994
 }
 
+// The mean is 0.1, which single precision takes for 0.1000000015.
+TEST_F(FractalBytesOf, the_mean_is_taken_in_double_precision) {
+    std::vector<double> values(10, 0.1);
+    values[0] = -0.0952941170;
+    values[8] = 0.2952941170;
+    std::vector<std::uint8_t> bytes(20, 0);
+    FractalValuesToBytes(values, 2, bytes);
+    EXPECT_EQ(bytes[0], 104);  // 103.5000002
+}
+
 TEST_F(FractalBytesOf, spikes_count_in_the_mean) {
     std::vector<double> values(10, 0.0);
     values[8] = 9;  // the last point has no bytes of its own
