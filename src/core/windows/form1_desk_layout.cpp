@@ -107,7 +107,7 @@ void designTools(Form1Window& form) {
         {button::kVolcano, 1, 198, Picture::ToolVolcano},
     };
     placeButtons(form, form.ToolFrame, tools);
-    designLabel(form.Label1, "Label1", form.ToolFrame, {50, 198, 78, 12}, "Draw height",
+    designLabel(form.Label1, "Label1", form.ToolFrame, {50, 198, 78, 13}, "Draw height",
                 {.size = 10, .color = skin::kTextQuiet});
     designPart(form.Picture3, "Picture3", form.ToolFrame, {50, 212, 78, 24});
     form.Picture3.Opaque = true;
