@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QWidget>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "core/objects.h"
@@ -135,7 +136,9 @@ TEST(MazeWindow, another_size_makes_another_maze_and_minimizing_keeps_it) {
             page = MazePage;
             mazeWidget()->showMinimized();
         });
-        ASSERT_TRUE(driver.waitFor([] { return Minimized == kMazeYes; }));
+        ASSERT_TRUE(driver.waitFor(
+            [] { return Minimized == kMazeYes && !mazeWidget()->windowHandle()->isExposed(); }));
+        driver.rest(500);  // the window manager shall have ended with the one before the other
         driver.inProgram([] { mazeWidget()->showNormal(); });
         EXPECT_TRUE(driver.waitFor([] { return Minimized == kMazeNo && isReady(); }));
         driver.inProgram([&page] { EXPECT_TRUE(MazePage == page); });
