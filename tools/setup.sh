@@ -1,8 +1,8 @@
 # Shared by ./run and ./test: packages and the build.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-image-formats-plugins libgl-dev
     librsvg2-bin libcanberra-dev libcanberra-pulse fonts-dejavu-core)
-SCREEN_PACKAGES=(xvfb openbox xdotool x11-utils imagemagick)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev netpbm clang-format python3 git
+SCREEN_PACKAGES=(xvfb openbox xdotool libxtst6 x11-utils imagemagick)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxtst-dev valgrind netpbm clang-format python3 git
     desktop-file-utils appstream man-db dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     weston xwayland qt6-wayland)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)

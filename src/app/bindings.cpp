@@ -73,6 +73,7 @@ const Binding kBindings[] = {
     {&Form1, "LTool", Event::MouseMove, NTool_MouseMove},
     {&Form1, "LTool", Event::MouseUp, NTool_MouseUp},
     {&Form1, "TwoFrame", Event::MouseMove, Ground_MouseMove},
+    {&Form1, "GroupText", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "Label1", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "Label4", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "ZoomView", Event::MouseMove, ZoomView_MouseMove},

@@ -1,5 +1,7 @@
 #include "core/color_ramp.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 
 #include "platform/numeric.h"
@@ -20,6 +22,32 @@ int rowOf(std::int16_t h) {
     return 0;
 }
 
+// The colours between the two ends of a row.
+class RowColors {
+  public:
+    explicit RowColors(int row) : low_(ColorRange(row, 1, 0)), span_(ColorRange(row, 2, 0) - low_) {
+        for (int component = 1; component <= 3; ++component) {
+            const auto n = static_cast<std::size_t>(component - 1);
+            atLow_[n] = ColorRange(row, 1, component);
+            atHigh_[n] = ColorRange(row, 2, component);
+        }
+    }
+
+    bool hasAny() const { return span_ != 0; }
+
+    void at(int h, double& r, double& g, double& b) const {
+        const double t = (h - low_) / span_;
+        r = t * atHigh_[0] + (1 - t) * atLow_[0];
+        g = t * atHigh_[1] + (1 - t) * atLow_[1];
+        b = t * atHigh_[2] + (1 - t) * atLow_[2];
+    }
+
+  private:
+    double low_, span_;
+    std::array<double, 3> atLow_{};
+    std::array<double, 3> atHigh_{};
+};
+
 }  // namespace
 
 void HeightToRGB(std::int16_t& h, double& r, double& g, double& b) {
@@ -33,17 +61,11 @@ void HeightToRGB(std::int16_t& h, double& r, double& g, double& b) {
     if (row == 0) {
         return;
     }
-    const double low = ColorRange(row, 1, 0);
-    const double high = ColorRange(row, 2, 0);
     // Required: a row of one height leaves the colour of before
     // (a_row_of_one_height_leaves_the_colour_alone).
-    if (high - low == 0) {
-        return;
+    if (const RowColors colors(row); colors.hasAny()) {
+        colors.at(h, r, g, b);
     }
-    const double t = (h - low) / (high - low);
-    r = t * ColorRange(row, 2, 1) + (1 - t) * ColorRange(row, 1, 1);
-    g = t * ColorRange(row, 2, 2) + (1 - t) * ColorRange(row, 1, 2);
-    b = t * ColorRange(row, 2, 3) + (1 - t) * ColorRange(row, 1, 3);
 }
 
 Color packRounded(double r, double g, double b) {
@@ -69,17 +91,29 @@ void ColorLookup::update() {
     }
     table_ = ColorRange;
     isFilled_ = true;
-    isComplete_ = true;
-    for (std::size_t i = 0; i < pixels_.size(); ++i) {
-        auto h = static_cast<std::int16_t>(i);
-        double r = 0;
-        double g = 0;
-        double b = 0;
-        HeightToRGB(h, r, g, b);
-        const int row = rowOf(h);
-        hasColor_[i] = row != 0 && ColorRange(row, 1, 0) != ColorRange(row, 2, 0);
-        isComplete_ = isComplete_ && hasColor_[i];
-        pixels_[i] = hasColor_[i] ? pixelOf(packRounded(r, g, b)) : 0;
+    pixels_.fill(0);
+    hasColor_.fill(false);
+    // The first row that contains a height counts, so it comes last.
+    for (int row = ColorTable::kRows; row >= 1; --row) {
+        takeRow(row);
+    }
+    isComplete_ = std::find(hasColor_.begin(), hasColor_.end(), false) == hasColor_.end();
+}
+
+void ColorLookup::takeRow(int row) {
+    const RowColors colors(row);
+    const int last = std::min<int>(ColorRange(row, 2, 0), 255);
+    for (int h = std::max<int>(ColorRange(row, 1, 0), 0); h <= last; ++h) {
+        const auto i = static_cast<std::size_t>(h);
+        hasColor_[i] = colors.hasAny();
+        pixels_[i] = 0;
+        if (colors.hasAny()) {
+            double r = 0;
+            double g = 0;
+            double b = 0;
+            colors.at(h, r, g, b);
+            pixels_[i] = pixelOf(packRounded(r, g, b));
+        }
     }
 }
 

@@ -33,11 +33,16 @@ class ColorLookup {
     bool hasColor(int height) const { return hasColor_[static_cast<std::size_t>(height)]; }
     Pixel pixel(int height) const { return pixels_[static_cast<std::size_t>(height)]; }
 
+    // The pixels of 0..255 in a row.
+    const Pixel* data() const { return pixels_.data(); }
+
     // Whether each of 0..255 has a colour of its own.
     bool isComplete() const { return isComplete_; }
 
   private:
     ColorTable table_;
+    void takeRow(int row);
+
     bool isFilled_ = false;
     bool isComplete_ = false;
     std::array<Pixel, 256> pixels_{};

@@ -61,7 +61,9 @@ void announceWork(const std::string& text, std::int32_t total) {
 }
 
 void requestStop() {
-    StopFlag = 1;
+    if (StopFlag != 2) {
+        StopFlag = 1;
+    }
     Form1.Line1.Visible = false;
 }
 
@@ -71,6 +73,11 @@ bool noteStop() {
     }
     StopFlag = 2;
     return true;
+}
+
+void forgetStop() {
+    finishStop();
+    StopFlag = 0;
 }
 
 void showProgress() {

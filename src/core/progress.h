@@ -20,11 +20,15 @@ void SetToolsEnabled(bool enabled);
 // Names the work in the panel, says that it runs and how far it goes.
 void announceWork(const std::string& text, std::int32_t total);
 
-// Asks the running operation to stop.
+// Asks the running operation to stop. A stop that was noted stays noted, for the tick to finish.
 void requestStop();
 
 // If a stop was asked for: notes it (StopFlag 2) and says true; the worker then returns at once.
 bool noteStop();
+
+// Before a command or a run: a stop that nobody has noted is forgotten, one that was noted and that
+// no tick has seen yet is finished.
+void forgetStop();
 
 // The timer's share: bar, percentage, and which panel shows.
 void showProgress();

@@ -108,7 +108,25 @@ void BuildBitmapHeader(std::string& header, std::int16_t mapSize) {
     appendPalette(header);
 }
 
+namespace {
+
+std::string bitmapOf(std::int16_t mapSize) {
+    std::string bytes;
+    bytes.reserve(fieldsOf(mapSize).fileBytes);
+    BuildBitmapHeader(bytes, mapSize);
+    for (int y = mapSize - 1; y >= 0; --y) {
+        appendRow(bytes, y, mapSize);
+    }
+    return bytes;
+}
+
+}  // namespace
+
 void WriteTerrainBitmap(const std::string& fileName, std::int16_t mapSize, std::int16_t& result) {
+    const std::string bytes = bitmapOf(mapSize);
+    if (!isNameTaken(fileName) && makeWholeFile(fileName, bytesOf(bytes))) {
+        return;
+    }
     BinaryFile probe(fileName);
     if (probe.length() != 0) {
         // Required: what holds something is never replaced, and no word is said
@@ -118,12 +136,6 @@ void WriteTerrainBitmap(const std::string& fileName, std::int16_t mapSize, std::
     }
     CreationGuard guard(fileName, probe.isNew());
     probe.close();
-    std::string bytes;
-    bytes.reserve(fieldsOf(mapSize).fileBytes);
-    BuildBitmapHeader(bytes, mapSize);
-    for (int y = mapSize - 1; y >= 0; --y) {
-        appendRow(bytes, y, mapSize);
-    }
     BinaryFile file(fileName);
     file.write(bytesOf(bytes));
     file.close();

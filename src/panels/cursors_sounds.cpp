@@ -33,6 +33,12 @@ constexpr ToolCursor kMotionCursors[] = {
 
 }  // namespace
 
+void prepareButtonSound() {
+    if (OptionStates(button::kUseSounds).State != kUp) {
+        services().sound->prepare();
+    }
+}
+
 void PlayButtonSound(int which) {
     if (OptionStates(button::kUseSounds).State == kUp) {
         return;

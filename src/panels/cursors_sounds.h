@@ -8,6 +8,9 @@ namespace ombrelia {
 inline constexpr int kPressSound = 1;
 inline constexpr int kReleaseSound = 2;
 
+// The pointer is over a button: a sound may be near, if sounds are on.
+void prepareButtonSound();
+
 // Plays the sound of a press or a release, if sounds are on and its file stands beside the program.
 void PlayButtonSound(int which);
 

@@ -94,6 +94,29 @@ void BinaryFile::fail(int errorNumber) const {
     throw FileFailure("saved", path_, std::strerror(errorNumber));
 }
 
+bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+    const std::size_t slash = path.find_last_of('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    const int handle = ::open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, kNewFileMode);
+    if (handle < 0) {
+        return false;
+    }
+    BinaryFile nameless(path, handle);
+    nameless.write(bytes);
+    const std::string end = "/proc/self/fd/" + std::to_string(handle);
+    const bool isNamed =
+        ::linkat(AT_FDCWD, end.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+    try {
+        nameless.close();
+    } catch (const FileFailure&) {
+        if (isNamed) {
+            undoCreation(path, true);
+        }
+        throw;
+    }
+    return isNamed;
+}
+
 bool isOrdinaryFile(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);

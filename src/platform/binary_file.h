@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace ombrelia {
 
@@ -30,12 +31,19 @@ class BinaryFile {
     void close();
 
   private:
+    BinaryFile(std::string path, int handle) : path_(std::move(path)), handle_(handle) {}
     [[noreturn]] void fail(int errorNumber) const;
+    friend bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
     std::string path_;
     int handle_ = -1;
     bool isNew_ = false;
 };
+
+// Makes a new file that appears under its name with all its bytes or, whatever happens, not at all.
+// False if something of this name is there or the file system offers no such way; nothing has
+// happened then. Throws FileFailure.
+bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
 // Whether there is an ordinary file, or a link to one, of this name.
 bool isOrdinaryFile(const std::string& path);

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <pwd.h>
 #include <sstream>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -19,6 +20,10 @@
 namespace ombrelia {
 
 namespace {
+
+// How long another editor is waited for, and how often it is looked for meanwhile.
+constexpr int kPatienceMilliseconds = 2000;
+constexpr int kTryMilliseconds = 5;
 
 constexpr const char* kHexDigits = "0123456789ABCDEF";
 
@@ -93,6 +98,17 @@ class FileHandle {
   private:
     int handle_;
 };
+
+// False, with errno, if it cannot be had in this time: another editor may hold it that was stopped.
+bool takeLock(int handle, int milliseconds) {
+    for (int waited = 0; ::flock(handle, LOCK_EX | LOCK_NB) != 0; waited += kTryMilliseconds) {
+        if ((errno != EWOULDBLOCK && errno != EINTR) || waited >= milliseconds) {
+            return false;
+        }
+        ::usleep(kTryMilliseconds * 1000);
+    }
+    return true;
+}
 
 // Writes a new file whole and flushed; the error number, 0 when all went well.
 int writeWhole(const std::string& path, const std::string& bytes, mode_t mode) {
@@ -248,8 +264,13 @@ std::string IniStore::writeMerged() {
     std::filesystem::create_directories(std::filesystem::path(path_).parent_path(), error);
     const std::string target = resolved(path_);
     const FileHandle lock(::open((target + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
-    if (lock.get() < 0 || ::flock(lock.get(), LOCK_EX) != 0) {
+    if (lock.get() < 0) {
         return failed(errno);
+    }
+    isPatient_ = takeLock(lock.get(), isPatient_ ? kPatienceMilliseconds : 0);
+    if (!isPatient_) {
+        return messages::settingsNotSaved(
+            path_, errno == EWOULDBLOCK ? messages::kStoreIsHeld : std::strerror(errno));
     }
     const std::string before = readWhole(target);
     bool isMalformed = false;
@@ -276,12 +297,25 @@ std::string IniStore::writeMerged() {
     return {};
 }
 
+namespace {
+
+// Where there is no HOME, the home of the account.
+std::string homeFolder() {
+    const char* home = std::getenv("HOME");
+    if (home != nullptr && *home != '\0') {
+        return home;
+    }
+    const passwd* account = ::getpwuid(::getuid());
+    return account != nullptr && account->pw_dir != nullptr ? account->pw_dir : ".";
+}
+
+}  // namespace
+
 std::string userSettingsPath() {
     const char* folder = std::getenv("XDG_CONFIG_HOME");
     std::string base = folder != nullptr && *folder == '/' ? folder : "";
     if (base.empty()) {
-        const char* home = std::getenv("HOME");
-        base = std::string(home != nullptr ? home : ".") + "/.config";
+        base = homeFolder() + "/.config";
     }
     return base + "/quillbyte/ombrelia-terrain-editor.ini";
 }

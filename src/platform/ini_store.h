@@ -1,5 +1,6 @@
 // The settings in one INI file, written whole or not at all: into a file beside it, flushed, and
-// renamed over it, under a lock that a second editor waits for. Reads once, at the first use.
+// renamed over it, under a lock that a second editor waits for, a while. Reads once, at the first
+// use.
 #pragma once
 
 #include <map>
@@ -43,6 +44,7 @@ class IniStore : public SettingsStore {
     std::string writeMerged();
 
     std::string path_;
+    bool isPatient_ = true;  // waits for another editor that holds the file; not twice in vain
     bool isLoaded_ = false;
     IniSections sections_;
     // Changes since the last commit, in order; no key: the section, no value: removed.

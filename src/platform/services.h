@@ -102,6 +102,8 @@ class Sound {
     virtual ~Sound() = default;
     // Path of a file beside the program.
     virtual std::string programFile(const std::string& name) = 0;
+    // A sound is likely to come soon; returns at once.
+    virtual void prepare() = 0;
     // Starts to play the file and returns at once; silence if it cannot be played.
     virtual void play(const std::string& path) = 0;
 };

@@ -5,7 +5,9 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/large_memory.h"
 #include "platform/numeric.h"
+#include "platform/wide_vectors.h"
 
 namespace ombrelia {
 
@@ -13,7 +15,13 @@ void Surface::setSize(int width, int height) {
     width_ = std::max(0, width);
     height_ = std::max(0, height);
     scaleToPixels();
-    pixels_.assign(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), ground());
+    const std::size_t count = static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
+    if (count > pixels_.capacity()) {
+        pixels_ = {};
+        pixels_.reserve(count);
+        preferLargePages(pixels_.data(), count * sizeof(Pixel));
+    }
+    pixels_.assign(count, ground());
     changed();
 }
 
@@ -101,12 +109,38 @@ void Surface::fillPixels(std::int64_t left, std::int64_t top, std::int64_t right
 
 namespace {
 
-// Source pixel under the centre of target pixel number i; may lie outside the source.
-std::int32_t sourceIndex(int i, double targetStart, double targetLength, double sourceStart,
-                         double sourceLength) {
-    const double share = (i + 0.5 - targetStart) / targetLength;
-    const double place = std::floor(sourceStart + share * sourceLength);
-    return static_cast<std::int32_t>(std::clamp(place, -1.0, 1.0e6));
+// A stretch of pixels on one axis of the target and what it takes from the source's.
+struct Stretch {
+    int first, count;  // pixels of the target
+    double targetStart, targetLength, sourceStart, sourceLength;
+};
+
+// Source pixels under the centres of the target's; may lie outside the source.
+OMBRELIA_IN_BOTH void findSources(const Stretch& stretch, std::int32_t* sources) {
+    for (int n = 0; n < stretch.count; ++n) {
+        const int i = stretch.first + n;
+        const double share = (i + 0.5 - stretch.targetStart) / stretch.targetLength;
+        double place = stretch.sourceStart + share * stretch.sourceLength;
+        place = place > -1.0 ? place : -1.0;
+        place = place < 1.0e6 ? place : 1.0e6;
+        const auto whole = static_cast<std::int32_t>(place);
+        sources[n] = whole - (whole > place ? 1 : 0);
+    }
+}
+
+OMBRELIA_WIDE void findSourcesWide(const Stretch& stretch, std::int32_t* sources) {
+    findSources(stretch, sources);
+}
+
+// The sources of a stretch, in memory that is lent for them.
+const std::int32_t* sourcesOf(const Stretch& stretch, std::vector<std::int32_t>& memory) {
+    memory.resize(static_cast<std::size_t>(stretch.count));
+    if (hasWideVectors()) {
+        findSourcesWide(stretch, memory.data());
+    } else {
+        findSources(stretch, memory.data());
+    }
+    return memory.data();
 }
 
 // First and one-past-last pixel whose centre lies in start..start + length, cut to 0..size.
@@ -154,20 +188,19 @@ void Surface::stretchedCopy(const Surface& source, const Area& to, const Area& f
     const double fromHeight = from.height * source.height_ / source.ScaleHeight;
     const PixelSpan across = pixelsInside(toX, toWidth, width_);
     const PixelSpan down = pixelsInside(toY, toHeight, height_);
-    const int count = across.end - across.first;
-    if (count <= 0 || down.end <= down.first) {
+    const int columns = across.end - across.first;
+    const int rows = down.end - down.first;
+    if (columns <= 0 || rows <= 0) {
         return;
     }
-    sourceColumns_.resize(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        sourceColumns_[static_cast<std::size_t>(i)] =
-            sourceIndex(across.first + i, toX, toWidth, fromX, fromWidth);
-    }
-    for (int y = down.first; y < down.end; ++y) {
-        const std::int32_t sourceY = sourceIndex(y, toY, toHeight, fromY, fromHeight);
-        if (sourceY >= 0 && sourceY < source.height_) {
-            copyRow(row(y) + across.first, source.row(sourceY), source.width_,
-                    sourceColumns_.data(), count);
+    const std::int32_t* sourceX =
+        sourcesOf({across.first, columns, toX, toWidth, fromX, fromWidth}, sourceColumns_);
+    const std::int32_t* sourceY =
+        sourcesOf({down.first, rows, toY, toHeight, fromY, fromHeight}, sourceRows_);
+    for (int n = 0; n < rows; ++n) {
+        if (sourceY[n] >= 0 && sourceY[n] < source.height_) {
+            copyRow(row(down.first + n) + across.first, source.row(sourceY[n]), source.width_,
+                    sourceX, columns);
         }
     }
     changed();

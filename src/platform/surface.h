@@ -113,7 +113,9 @@ class Surface {
     int width_ = 0;
     int height_ = 0;
     std::vector<Pixel> pixels_;
-    std::vector<std::int32_t> sourceColumns_;  // of the stretched copy, kept to spare allocations
+    // Of the stretched copy, kept to spare allocations.
+    std::vector<std::int32_t> sourceColumns_;
+    std::vector<std::int32_t> sourceRows_;
     std::uint64_t revision_ = 0;
 };
 

@@ -11,8 +11,8 @@ namespace ombrelia {
 
 namespace {
 
-template <typename Int>
-void sortFew(std::array<Int, Surface::kMostCorners>& items, std::size_t count) {
+template <typename Int, std::size_t Most>
+void sortFew(std::array<Int, Most>& items, std::size_t count) {
     for (std::size_t n = 1; n < count; ++n) {
         const Int item = items[n];
         std::size_t hole = n;
@@ -20,6 +20,20 @@ void sortFew(std::array<Int, Surface::kMostCorners>& items, std::size_t count) {
             items[hole] = items[hole - 1];
         }
         items[hole] = item;
+    }
+}
+
+// Where edges pass through a line of pixels; one more is written than counts.
+using Passings = std::array<std::int32_t, Surface::kMostCorners + 1>;
+
+// Most lines are passed twice.
+void sortPassings(Passings& places, std::size_t count) {
+    if (count > 2) {
+        sortFew(places, count);
+    } else if (count == 2) {
+        const auto [lower, upper] = std::minmax({places[0], places[1]});
+        places[0] = lower;
+        places[1] = upper;
     }
 }
 
@@ -141,19 +155,58 @@ class PolygonFiller {
     int count_ = 0;
 };
 
-// The first row that lies below an edge in the column of centres x, by the same rule: a centre on
-// the edge belongs to what is on its right. a.x <= x < b.x; products fit 32 bits.
-inline std::int32_t rowBelow(PixelPoint a, PixelPoint b, std::int32_t x) {
-    const std::int32_t dx = b.x - a.x;
-    const std::int32_t dy = b.y - a.y;
-    const std::int32_t tie = dy < 0 ? 1 : 0;
-    if (dx == 1) {
-        return a.y + ((dy + 1 - tie) >> 1);
+// Columns of a shape that is filled downwards, at most.
+constexpr std::uint32_t kMostColumns = 64;
+
+// A quotient by 2 * columns as a product: 2^32 / (2 * columns), rounded up.
+constexpr std::array<std::int64_t, kMostColumns + 1> kReciprocals = [] {
+    std::array<std::int64_t, kMostColumns + 1> reciprocals{};
+    for (std::size_t columns = 1; columns <= kMostColumns; ++columns) {
+        const auto divisor = static_cast<std::int64_t>(2 * columns);
+        reciprocals[columns] = ((std::int64_t{1} << 32U) + divisor - 1) / divisor;
     }
-    const std::int32_t n = (2 * (x - a.x) + 1) * dy + dx - tie;
-    const std::int32_t quotient = n / (2 * dx);
-    return a.y + (n % (2 * dx) < 0 ? quotient - 1 : quotient);
-}
+    return reciprocals;
+}();
+
+// The first row that lies below an edge, column after column, by the same rule: a centre on the
+// edge belongs to what is on its right. Coordinates have 13 bits, so the products are exact.
+class SteepEdge {
+  public:
+    SteepEdge() = default;
+    SteepEdge(const PixelPoint& one, const PixelPoint& other, std::int32_t firstColumn) {
+        const PixelPoint& a = one.x < other.x ? one : other;
+        const PixelPoint& b = one.x < other.x ? other : one;
+        const std::int32_t dy = b.y - a.y;
+        columns_ = b.x - a.x;
+        column_ = firstColumn - a.x;
+        upper_ = std::min(a.y, b.y);
+        reciprocal_ = kReciprocals[static_cast<std::size_t>(columns_)];
+        growth_ = 2 * dy;
+        // Above 0 on the whole edge.
+        numerator_ = (2 * column_ + 1) * dy + columns_ + (dy < 0 ? -2 * columns_ * dy - 1 : 0);
+    }
+
+    // Whether the edge passes through the present column, and where.
+    bool isHere() const {
+        return static_cast<std::uint32_t>(column_) < static_cast<std::uint32_t>(columns_);
+    }
+    std::int32_t row() const {
+        return upper_ + static_cast<std::int32_t>((numerator_ * reciprocal_) >> 32U);
+    }
+
+    void step() {
+        ++column_;
+        numerator_ += growth_;
+    }
+
+  private:
+    std::int32_t columns_;
+    std::int32_t column_;  // from the edge's first
+    std::int32_t upper_;
+    std::int32_t growth_;
+    std::int64_t numerator_;
+    std::int64_t reciprocal_;
+};
 
 void fillColumn(const Ground& ground, std::int32_t x, std::int32_t top, std::int32_t bottom) {
     const std::int32_t first = std::max(top, 0);
@@ -165,35 +218,96 @@ void fillColumn(const Ground& ground, std::int32_t x, std::int32_t top, std::int
 }
 
 // A shape of few columns, filled downwards. The number of corners is best known when compiling.
+// Which edges pass through a column is as good as chance, so there is no branch for it.
 template <std::size_t Extent>
 void fillNarrow(std::span<const PixelPoint, Extent> corners, const Ground& ground,
                 std::int32_t left, std::int32_t right) {
-    for (std::int32_t x = std::max(left, 0); x < std::min(right, ground.width); ++x) {
-        std::array<std::int32_t, Surface::kMostCorners> rows;
+    std::array<SteepEdge, Surface::kMostCorners> edges;
+    const std::int32_t first = std::max(left, 0);
+    PixelPoint before = corners.back();
+    for (std::size_t n = 0; n < corners.size(); ++n) {
+        edges[n] = SteepEdge(before, corners[n], first);
+        before = corners[n];
+    }
+    for (std::int32_t x = first; x < std::min(right, ground.width); ++x) {
+        Passings rows;
         std::size_t crossings = 0;
-        PixelPoint before = corners.back();
-        for (const PixelPoint& corner : corners) {
-            if (before.x <= x && x < corner.x) {
-                rows[crossings++] = rowBelow(before, corner, x);
-            } else if (corner.x <= x && x < before.x) {
-                rows[crossings++] = rowBelow(corner, before, x);
-            }
-            before = corner;
+        for (std::size_t n = 0; n < corners.size(); ++n) {
+            rows[crossings] = edges[n].row();
+            crossings += edges[n].isHere() ? 1U : 0U;
+            edges[n].step();
         }
-        if (crossings > 2) {
-            sortFew(rows, crossings);
-        }
+        sortPassings(rows, crossings);
         for (std::size_t n = 0; n + 1 < crossings; n += 2) {
-            fillColumn(ground, x, std::min(rows[n], rows[n + 1]), std::max(rows[n], rows[n + 1]));
+            fillColumn(ground, x, rows[n], rows[n + 1]);
         }
+    }
+}
+
+// Where the four edges pass between two neighbouring lines of places, sorted; how many do. Which
+// edges they are is as good as chance, so there is no branch for it.
+template <typename IsBefore, typename PlaceOf>
+std::size_t findPassings(std::span<const PixelPoint, 4> corners, IsBefore isBefore, PlaceOf placeOf,
+                         Passings& places) {
+    std::size_t count = 0;
+    PixelPoint before = corners[3];
+    for (const PixelPoint& corner : corners) {
+        const bool isFirst = isBefore(before);
+        places[count] = isFirst ? placeOf(before, corner) : placeOf(corner, before);
+        count += isFirst != isBefore(corner) ? 1U : 0U;
+        before = corner;
+    }
+    sortPassings(places, count);
+    return count;
+}
+
+// A shape of one column: an edge passes half way between its ends, down from there if it falls.
+void fillOneColumn(std::span<const PixelPoint, 4> corners, const Ground& ground,
+                   std::int32_t left) {
+    Passings rows;
+    const std::size_t count = findPassings(
+        corners, [left](const PixelPoint& corner) { return corner.x == left; },
+        [](const PixelPoint& a, const PixelPoint& b) {
+            return (a.y + b.y + (b.y >= a.y ? 1 : 0)) >> 1;
+        },
+        rows);
+    for (std::size_t n = 0; n + 1 < count; n += 2) {
+        fillColumn(ground, left, rows[n], rows[n + 1]);
+    }
+}
+
+// A shape of one row.
+void fillOneRow(std::span<const PixelPoint, 4> corners, const Ground& ground, std::int32_t top) {
+    Passings columns;
+    const std::size_t count = findPassings(
+        corners, [top](const PixelPoint& corner) { return corner.y == top; },
+        [](const PixelPoint& a, const PixelPoint& b) { return (a.x + b.x) >> 1; }, columns);
+    for (std::size_t n = 0; n + 1 < count; n += 2) {
+        ground.fill(top, columns[n], columns[n + 1]);
     }
 }
 
 struct Bounds {
     std::int32_t left, top, right, bottom;
 };
-template <std::size_t Extent>
-Bounds boundsOf(std::span<const PixelPoint, Extent> corners) {
+// The smaller and the larger of two numbers.
+struct Range {
+    std::int32_t low, high;
+
+    Range(std::int32_t a, std::int32_t b) : low(b < a ? b : a), high(b < a ? a : b) {}
+};
+
+// Two pairs first: all comparisons of four corners but two can be made at once.
+Bounds boundsOf(std::span<const PixelPoint, 4> corners) {
+    const Range x1(corners[0].x, corners[1].x);
+    const Range x2(corners[2].x, corners[3].x);
+    const Range y1(corners[0].y, corners[1].y);
+    const Range y2(corners[2].y, corners[3].y);
+    return {std::min(x1.low, x2.low), std::min(y1.low, y2.low), std::max(x1.high, x2.high),
+            std::max(y1.high, y2.high)};
+}
+
+Bounds boundsOf(std::span<const PixelPoint> corners) {
     Bounds bounds{corners[0].x, corners[0].y, corners[0].x, corners[0].y};
     for (const PixelPoint& corner : corners) {
         bounds.left = std::min(bounds.left, corner.x);
@@ -218,11 +332,16 @@ bool isSinglePixelInside(std::span<const PixelPoint, 4> corners, const Bounds& b
     return (0x6996U >> (passing & 15U) & 1U) != 0;  // odd number of bits
 }
 
+// From one coordinate to a larger one.
+std::uint32_t distance(std::int32_t from, std::int32_t to) {
+    return static_cast<std::uint32_t>(to) - static_cast<std::uint32_t>(from);
+}
+
 template <std::size_t Extent>
 bool fillPolygon(std::span<const PixelPoint, Extent> corners, const Ground& ground) {
     const Bounds bounds = boundsOf(corners);
-    const std::int64_t width = static_cast<std::int64_t>(bounds.right) - bounds.left;
-    const std::int64_t height = static_cast<std::int64_t>(bounds.bottom) - bounds.top;
+    const std::uint32_t width = distance(bounds.left, bounds.right);
+    const std::uint32_t height = distance(bounds.top, bounds.bottom);
     if (width == 0 || height == 0 || bounds.left >= ground.width || bounds.top >= ground.height ||
         bounds.right <= 0 || bounds.bottom <= 0) {
         return false;
@@ -239,11 +358,23 @@ bool fillPolygon(std::span<const PixelPoint, Extent> corners, const Ground& grou
     }
     // Up to here products of two coordinates fit 32 bits.
     constexpr std::int32_t kSmall = 8191;
-    constexpr std::int64_t kNarrow = 4;
+    constexpr std::uint32_t kNarrow = 4;
     if (bounds.left < -kSmall || bounds.right > kSmall || bounds.top < -kSmall ||
         bounds.bottom > kSmall) {
         PolygonFiller<std::int64_t, Wide>(corners, ground).fill();
-    } else if (width <= std::max(kNarrow, height)) {
+        return true;
+    }
+    if constexpr (Extent == 4) {
+        if (width == 1) {
+            fillOneColumn(corners, ground, bounds.left);
+            return true;
+        }
+        if (height == 1) {
+            fillOneRow(corners, ground, bounds.top);
+            return true;
+        }
+    }
+    if (width <= std::min(std::max(kNarrow, height), kMostColumns)) {
         fillNarrow(corners, ground, bounds.left, bounds.right);
     } else {
         PolygonFiller<std::int32_t, std::int32_t>(corners, ground).fill();

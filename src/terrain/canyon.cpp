@@ -122,7 +122,7 @@ void finish() {
 }  // namespace
 
 void CarveCanyon() {
-    StopFlag = 0;
+    forgetStop();
     Form1.Line1.Visible = true;
     // Required: the marker stays in sight when there is nothing to carve
     // (a_path_of_two_points_changes_nothing_and_leaves_the_marker).

@@ -30,22 +30,35 @@ class CanyonWall {
     // Directions of one spacing, with the height of the rim in each around the present place.
     struct Fan {
         Directions directions;
+        std::vector<PreparedRing> rim;  // one, once the directions are known
         std::vector<std::int16_t> tops;
     };
 
+    // One circle of the wall.
+    struct Ring {
+        PreparedRing samples;
+        double climb;         // -1..1
+        std::uint16_t share;  // of the way from the floor up to the rim, at most, in 1 / 65536
+        bool canCut;          // some height gets lower by it
+        std::array<std::int16_t, kHeights> walls;  // by the height of the rim
+    };
+
     Fan& fanFor(int r);
-    void readRim(Fan& fan, double x, double y) const;
-    void carveRing(int ring, double x, double y);
-    double wallHeight(int ring, int top) const;
+    Ring makeRing(int number);
+    void readRim(Fan& fan, double x, double y);
+    void carveRing(const Ring& ring, const Fan& fan, double x, double y);
+    void findChances(const Ring& ring, const Fan& fan);
+    void cut(const Ring& ring, std::int16_t top, std::int16_t& ground) const;
+    static double wallHeight(double climb, int top);
 
     int bank_;
     int edge_;
     HeightGrid before_;
     std::array<Fan, kSpacings> fans_;
-    std::vector<PreparedRing> rings_;
-    std::vector<std::int32_t> cells_;
-    std::vector<double> climbs_;                             // -1..1 for each ring
-    std::vector<std::array<std::int16_t, kHeights>> walls_;  // by ring, then by height of the rim
+    std::vector<Ring> rings_;
+    NearCells cells_;
+    std::vector<std::int16_t> grounds_;  // under the samples of the present circle
+    std::vector<std::uint8_t> chances_;  // by sample: 0 if it surely cuts nothing
 };
 
 }  // namespace ombrelia

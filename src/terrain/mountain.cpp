@@ -68,10 +68,7 @@ class FlankDirections {
   public:
     const Directions& at(int r) {
         if (r > kFinestFrom) {
-            return made(finest_, kFinestCount, [](int n) {
-                const double angle = n * 0.1 * kRadian;
-                return std::pair(std::cos(angle), std::sin(angle));
-            });
+            return finest();
         }
         if (r > kFinerFrom) {
             return made(finer_, kFinerCount, [](int n) { return fromTable(n * 0.2); });
@@ -103,7 +100,20 @@ class FlankDirections {
         return directions;
     }
 
-    Directions coarse_, finer_, finest_;
+    // 7202 sines and cosines, the same for every mountain.
+    static const Directions& finest() {
+        static const Directions made = [] {
+            Directions directions;
+            for (int n = 0; n < kFinestCount; ++n) {
+                const double angle = n * 0.1 * kRadian;
+                directions.add(std::cos(angle), std::sin(angle));
+            }
+            return directions;
+        }();
+        return made;
+    }
+
+    Directions coarse_, finer_;
 };
 
 bool shapeFlank(int x, int y, const MountainShape& shape, RingCells& ring) {
@@ -136,7 +146,7 @@ bool shapeMountain(int x, int y, const MountainShape& shape) {
 }
 
 void BuildMountain(std::int16_t x, std::int16_t y) {
-    StopFlag = 0;
+    forgetStop();
     SetToolsEnabled(false);
     const int height = SliderValues(kHeightSlider).Value;
     const MountainShape shape{height, SliderValues(kTopSizeSlider).Value, sideFor(height),

@@ -1,5 +1,7 @@
 #include "terrain/ring.h"
 
+#include "platform/wide_vectors.h"
+
 namespace ombrelia {
 
 namespace {
@@ -10,7 +12,7 @@ constexpr int kDegrees = 360;
 
 // Largest whole number not above value, |value| below 2^31, in a form of which the compiler makes
 // several at once: the sum with 1.5 * 2^52 has no digits after the point.
-inline double wholeBelow(double value) {
+OMBRELIA_IN_BOTH double wholeBelow(double value) {
     constexpr double kShift = 6755399441055744.0;
     const double nearest = (value + kShift) - kShift;
     return nearest - (nearest > value ? 1.0 : 0.0);
@@ -24,7 +26,7 @@ struct Circle {
     std::size_t count;
 };
 
-void cellsInside(const Circle& circle, std::int32_t* cells) {
+OMBRELIA_IN_BOTH void cellsInside(const Circle& circle, std::int32_t* cells) {
     const auto [x, y, r, cosines, sines, count] = circle;
     for (std::size_t n = 0; n < count; ++n) {
         const double px = wholeBelow(x + r * cosines[n]);
@@ -33,7 +35,7 @@ void cellsInside(const Circle& circle, std::int32_t* cells) {
     }
 }
 
-void cellsAcrossTheBorder(const Circle& circle, double side, std::int32_t* cells) {
+OMBRELIA_IN_BOTH void cellsAcrossTheBorder(const Circle& circle, double side, std::int32_t* cells) {
     const auto [x, y, r, cosines, sines, count] = circle;
     for (std::size_t n = 0; n < count; ++n) {
         const double px = wholeBelow(x + r * cosines[n]);
@@ -44,6 +46,22 @@ void cellsAcrossTheBorder(const Circle& circle, double side, std::int32_t* cells
         cell = py < 0 ? RingCells::kOutside : cell;
         cell = py > side ? RingCells::kOutside : cell;
         cells[n] = static_cast<std::int32_t>(cell);
+    }
+}
+
+OMBRELIA_WIDE void findWide(const Circle& circle, bool isInside, double side, std::int32_t* cells) {
+    if (isInside) {
+        cellsInside(circle, cells);
+    } else {
+        cellsAcrossTheBorder(circle, side, cells);
+    }
+}
+
+void findNarrow(const Circle& circle, bool isInside, double side, std::int32_t* cells) {
+    if (isInside) {
+        cellsInside(circle, cells);
+    } else {
+        cellsAcrossTheBorder(circle, side, cells);
     }
 }
 
@@ -75,10 +93,11 @@ std::span<const std::int32_t> RingCells::find(double x, double y, double r,
     cells_.resize(count);
     const int side = checkedMapSide();
     const Circle circle{x, y, r, directions.cosines(), directions.sines(), count};
-    if (reachesInside(x, reach, side) && reachesInside(y, reach, side)) {
-        cellsInside(circle, cells_.data());
+    const bool isInside = reachesInside(x, reach, side) && reachesInside(y, reach, side);
+    if (hasWideVectors()) {
+        findWide(circle, isInside, side, cells_.data());
     } else {
-        cellsAcrossTheBorder(circle, side, cells_.data());
+        findNarrow(circle, isInside, side, cells_.data());
     }
     return {cells_.data(), count};
 }

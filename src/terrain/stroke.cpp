@@ -98,7 +98,7 @@ bool drawSegments(int last, bool isLine) {
 }  // namespace
 
 void DrawStroke(std::int16_t mode) {
-    StopFlag = 0;
+    forgetStop();
     if (StrokeCount < 3) {
         return;
     }

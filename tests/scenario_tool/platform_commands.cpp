@@ -29,6 +29,13 @@ void setClockStep(Session& session, const Fields& fields) {
     session.platform.SecondsPerReading = realNumber(fields[0]);
 }
 
+void tellFailures(Session& session, const Fields& fields) {
+    if (fields[0] != "told" && fields[0] != "end") {
+        throw LineError{"failures are told, or end the scenario"};
+    }
+    session.tellsFailures = fields[0] == "told";
+}
+
 void setSetting(Session& session, const Fields& fields) {
     session.platform.write(fields[0], fields[1], fields[2]);
 }
@@ -89,7 +96,19 @@ void answerColor(Session& session, const Fields& fields) {
     session.platform.ColorAnswers.push_back(answer);
 }
 
+void forgetAnswers(HeadlessPlatform& platform) {
+    platform.SaveAnswers.clear();
+    platform.OpenAnswers.clear();
+    platform.InputAnswers.clear();
+    platform.ColorAnswers.clear();
+    platform.MessageAnswers.clear();
+}
+
 void queueAnswer(Session& session, const Fields& fields) {
+    if (fields.size() == 1 && fields[0] == "none") {
+        forgetAnswers(session.platform);
+        return;
+    }
     if (fields[0] == "color") {
         answerColor(session, fields);
         return;
@@ -111,7 +130,8 @@ constexpr Command kCommands[] = {
     {"clock", 1, 1, Acts::Anywhere, setClock},
     {"clock-step", 1, 1, Acts::Anywhere, setClockStep},
     {"setting", 3, 3, Acts::Anywhere, setSetting},
-    {"answer", 2, 4, Acts::Anywhere, queueAnswer},
+    {"answer", 1, 4, Acts::Anywhere, queueAnswer},
+    {"failures", 1, 1, Acts::Anywhere, tellFailures},
     {"file", 1, 2, Acts::Anywhere, tellOfFile},
 };
 

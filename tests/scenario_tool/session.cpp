@@ -35,7 +35,7 @@ void checkCommandWord(const std::string& word) {
 
 Session::Session() {
     platform.install();
-    platform.ThrowOnFailure = true;
+    platform.OnFailure = [this](const std::string& sentence) { tellFailure(sentence); };
     platform.OnYield = [this] { inYield(); };
     resetProcess();
 }
@@ -89,6 +89,24 @@ void Session::startProcess() {
     runHandler(startEditor);
 }
 
+void Session::tellFailure(const std::string& sentence) {
+    const bool isOfFile = sentence.starts_with("The file ") || sentence.starts_with("The picture ");
+    if (!tellsFailures || !isOfFile) {
+        throw HandlerFailed{sentence};
+    }
+    repairAfterFailure();
+    platform.message(sentence, kErrorBox, kDefaultTitle);
+}
+
+std::vector<int> Session::takeWaitingLines() {
+    std::vector<int> lines;
+    for (const Waiting& row : waiting_) {
+        lines.push_back(row.line);
+    }
+    waiting_.clear();
+    return lines;
+}
+
 bool Session::takeWaiting(long yield, Waiting& taken) {
     const auto found = std::find_if(waiting_.begin(), waiting_.end(),
                                     [yield](const Waiting& row) { return row.yield == yield; });
@@ -110,10 +128,21 @@ void Session::inYield() {
     while (takeWaiting(yield, command)) {
         // A failure inside is one of the line that the command stands in.
         const int outer = std::exchange(line, command.line);
-        runCommand(command.command);
+        runInYield(command.command);
         line = outer;
     }
     --yieldsOnStack_;
+}
+
+void Session::runInYield(const Fields& command) {
+    try {
+        runCommand(command);
+    } catch (const LineError&) {
+        if (!passesOverErrors) {
+            throw;
+        }
+        passedOver.push_back(line);
+    }
 }
 
 }  // namespace ombrelia::scenario

@@ -19,6 +19,14 @@ class Session {
     HeadlessPlatform platform;
     bool ticksInYields = false;
 
+    // Failures of files and pictures are told in a message box, as on a screen; the others still
+    // end the scenario.
+    bool tellsFailures = false;
+
+    // A command inside a yield that cannot be run is passed over; its line is noted.
+    bool passesOverErrors = false;
+    std::vector<int> passedOver;
+
     // Number of the line that is being run, from 1; inside a yield, of the line that asked for it.
     int line = 0;
 
@@ -30,6 +38,9 @@ class Session {
 
     // Runs a command inside the yield that comes as number yieldsFromHere, from 1 on.
     void runAtYield(long yieldsFromHere, const Fields& command);
+
+    // The lines whose commands still wait for their yield; they wait no longer.
+    std::vector<int> takeWaitingLines();
 
     // A new process on the same settings store, up to the splash.
     void startProcess();
@@ -43,6 +54,8 @@ class Session {
 
     void runCommand(const Fields& fields);
     void inYield();
+    void runInYield(const Fields& command);
+    void tellFailure(const std::string& sentence);
     bool takeWaiting(long yield, Waiting& taken);
 
     int linesRead_ = 0;

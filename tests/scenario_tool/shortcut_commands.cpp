@@ -151,17 +151,11 @@ void maze(Session& /*session*/, const Fields& fields) {
     });
 }
 
-void show(Session& /*session*/, const Fields& fields) {
-    Window& window = windowNamed(fields[0]);
-    runHandler([&window] { showWindow(window); });
-}
-
 constexpr Command kCommands[] = {
     {"run", 1, 1, Acts::OnEditor, run},          {"slider", 2, 2, Acts::OnEditor, setSlider},
     {"button", 2, 2, Acts::OnEditor, setButton}, {"fill", 1, 1, Acts::OnEditor, fill},
     {"cell", 3, 3, Acts::OnEditor, setCell},     {"heights", 1, 1, Acts::OnEditor, readHeights},
     {"assign", 2, 2, Acts::OnEditor, assign},    {"maze", 4, 4, Acts::OnEditor, maze},
-    {"show", 1, 1, Acts::OnEditor, show},
 };
 
 }  // namespace

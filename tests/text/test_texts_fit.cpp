@@ -4,13 +4,16 @@
 #include <gtest/gtest.h>
 
 #include "app/bindings.h"
+#include "core/color_ramp.h"
 #include "core/desk/startup.h"
+#include "core/objects.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/help_texts_table.h"
 #include "core/windows/small_windows.h"
 #include "panels/help_box.h"
 #include "panels/hints_table.h"
+#include "panels/sliders.h"
 #include "platform/dispatch.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/qt/label_text.h"
@@ -85,6 +88,33 @@ TEST_F(Texts, every_hint_fits_the_frame) {
     }
     for (const MapHint& row : kMapHints) {
         expectHintToFit(std::string("This is the map view. ") + row.text);
+    }
+}
+
+TEST_F(Texts, every_label_of_every_window_fits) {
+    showWindow(SizeSelect);
+    showWindow(Form3);
+    Form1.Label11.Caption = "Ombrelia Terrain Editor - Miniature Map";
+    Form1.Label22.Caption = metresText(255);
+    Form1.Label19.Caption = metresText(255);
+    Form1.WorkWhat.Caption = "Generating Fractal Part 12/12";
+    Form1.PercDone.Caption = "100 Percent Done";
+    for (const Window* window : {static_cast<Window*>(&Form1), static_cast<Window*>(&HelpBox),
+                                 static_cast<Window*>(&SizeSelect), static_cast<Window*>(&Form3)}) {
+        for (const Control* part : window->Controls) {
+            if (part->Kind == ControlKind::Label && !part->Caption.empty()) {
+                expectToFit(static_cast<const Label&>(*part),
+                            window->Name + "." + part->Name + " " + std::to_string(part->Index));
+            }
+        }
+    }
+}
+
+TEST_F(Texts, each_slider_shows_its_widest_value) {
+    for (int slider = 1; slider <= 14; ++slider) {
+        SliderValues(slider).Value = SliderValues(slider).Max;
+        showReadout(slider);
+        expectToFit(Form1.readout(slider), "slider " + std::to_string(slider));
     }
 }
 

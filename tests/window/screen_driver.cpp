@@ -22,7 +22,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kPatienceMilliseconds = 8000;
+constexpr int kPatienceMilliseconds = 30000;
 
 WindowView* viewOf(const Window& window) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -55,7 +55,8 @@ QPoint onScreen(Control& control, double x, double y) {
 }  // namespace
 
 void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yieldMilliseconds) {
-    ASSERT_NE(std::getenv("DISPLAY"), nullptr) << "run these tests through tools/with_screen.sh";
+    ASSERT_TRUE(std::getenv("DISPLAY") != nullptr || std::getenv("QT_QPA_PLATFORM") != nullptr)
+        << "run these tests through tools/with_screen.sh";
     static char name[] = "window_tests";
     static char* arguments[] = {name, nullptr};
     ScreenDriver driver;
@@ -144,6 +145,19 @@ void ScreenDriver::click(Control& control, double x, double y) {
     release();
 }
 
+void ScreenDriver::doubleClick(Control& control) {
+    moveTo(control);
+    tell("click --repeat 2 --delay 60 1");
+    rest();
+}
+
+void ScreenDriver::clickAt(const QPoint& place) {
+    tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()));
+    rest(60);
+    press();
+    release();
+}
+
 void ScreenDriver::type(const std::string& text) {
     tell("type --delay 8 '" + text + "'");
     rest();
@@ -178,19 +192,20 @@ QImage ScreenDriver::pictureOf(Control& control) {
     rest();
     QImage picture;
     inProgram([&] {
-        const QPoint corner = onScreen(control, 0, 0);
-        double border = 0;
-        if (control.Kind == ControlKind::PictureBox) {
-            border = static_cast<PictureBox&>(control).Border;
+        const WindowView* view = viewOf(*control.Owner);
+        QPoint corner = onScreen(control, 0, 0);
+        const double border =
+            control.Kind == ControlKind::PictureBox ? static_cast<PictureBox&>(control).Border : 0;
+        const double scale = std::floor(scaleOf(*view) * 4 + 0.01) / 4;
+        QSize size(static_cast<int>(std::lround((control.Width - 2 * border) * scale)),
+                   static_cast<int>(std::lround((control.Height - 2 * border) * scale)));
+        if (control.Kind == ControlKind::Window) {  // with its menu bar
+            corner = view->mapToGlobal(QPoint(0, 0));
+            size = view->size() * view->devicePixelRatioF();
         }
-        const double scale = std::floor(scaleOf(*viewOf(*control.Owner)) * 4 + 0.01) / 4;
-        const auto side = [&](double units) {
-            return static_cast<int>(std::lround((units - 2 * border) * scale));
-        };
-        picture =
-            QGuiApplication::primaryScreen()
-                ->grabWindow(0, corner.x(), corner.y(), side(control.Width), side(control.Height))
-                .toImage();
+        picture = QGuiApplication::primaryScreen()
+                      ->grabWindow(0, corner.x(), corner.y(), size.width(), size.height())
+                      .toImage();
     });
     return picture;
 }

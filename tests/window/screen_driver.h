@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPoint>
 #include <atomic>
 #include <functional>
 #include <string>
@@ -32,6 +33,9 @@ class ScreenDriver {
     void release(int button = 1);
     void click(Control& control);
     void click(Control& control, double x, double y);
+    void doubleClick(Control& control);
+    // The same for what the toolkit shows by itself: a place on the screen.
+    void clickAt(const QPoint& place);
 
     // The keyboard, to whatever has it.
     void type(const std::string& text);

@@ -1,5 +1,7 @@
 // The maze on the screen: opened by the real gestures, played by real keys, resized and minimized.
 #include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -65,6 +67,25 @@ bool openMaze(ScreenDriver& driver) {
     return driver.waitForWindow(frm3DMaze) && driver.waitFor(isReady);
 }
 
+// A click on a menu, then on its entry. A menu that goes uncovers the maze, which is then painted
+// anew with some entries out of use: the next choice comes after that.
+void choose(ScreenDriver& driver, int menu, int entry) {
+    QPoint place;
+    driver.rest(200);
+    ASSERT_TRUE(driver.waitFor(isReady));
+    driver.inProgram([&] {
+        const auto* bar = mazeWidget()->findChild<QMenuBar*>();
+        place = bar->mapToGlobal(bar->actionGeometry(bar->actions().at(menu)).center());
+    });
+    driver.clickAt(place);
+    ASSERT_TRUE(driver.waitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    driver.inProgram([&] {
+        const auto* list = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+        place = list->mapToGlobal(list->actionGeometry(list->actions().at(entry)).center());
+    });
+    driver.clickAt(place);
+}
+
 // The first step of the solution.
 int firstStep() {
     int d = 0;
@@ -118,6 +139,50 @@ TEST(MazeWindow, another_size_makes_another_maze_and_minimizing_keeps_it) {
         driver.inProgram([] { mazeWidget()->showNormal(); });
         EXPECT_TRUE(driver.waitFor([] { return Minimized == kMazeNo && isReady(); }));
         driver.inProgram([&page] { EXPECT_TRUE(MazePage == page); });
+    });
+}
+
+TEST(MazeWindow, the_menus_work_by_mouse) {
+    constexpr int kAction = 0;
+    constexpr int kStyle = 1;
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openMaze(driver));
+        const QImage unsolved = driver.pictureOf(frm3DMaze);
+        choose(driver, kAction, 1);
+        EXPECT_TRUE(driver.waitFor([] { return Solved == kMazeYes; }));
+        driver.rest(200);
+        ASSERT_TRUE(driver.waitFor(isReady));
+        const QImage solved = driver.pictureOf(frm3DMaze);
+        EXPECT_NE(solved, unsolved);
+        choose(driver, kAction, 2);
+        EXPECT_TRUE(driver.waitFor([] { return Solved == kMazeNo && isReady(); }));
+        driver.rest(200);
+        ASSERT_TRUE(driver.waitFor(isReady));
+        EXPECT_EQ(driver.pictureOf(frm3DMaze), unsolved);
+        MazeGrid page;
+        driver.inProgram([&page] { page = MazePage; });
+        choose(driver, kStyle, 0);
+        EXPECT_TRUE(driver.waitFor([] { return frm3DMaze.mnuStyleItem(0).Checked && isReady(); }));
+        choose(driver, kStyle, 1);
+        EXPECT_TRUE(driver.waitFor([] { return frm3DMaze.mnuStyleItem(1).Checked && isReady(); }));
+        choose(driver, kAction, 0);
+        EXPECT_TRUE(driver.waitFor([&page] { return isReady() && !(MazePage == page); }));
+    });
+}
+
+TEST(MazeWindow, a_drag_of_the_bar_tilts_the_maze) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openMaze(driver));
+        const QImage steep = driver.pictureOf(frm3DMaze);
+        double tilt = 0;
+        driver.inProgram([&tilt] { tilt = TiltDegrees; });
+        driver.moveTo(frm3DMaze.VScroll1);
+        driver.press();
+        driver.moveTo(frm3DMaze.VScroll1, 8, 200);
+        driver.moveTo(frm3DMaze.VScroll1, 8, 280);
+        driver.release();
+        EXPECT_TRUE(driver.waitFor([&] { return isReady() && TiltDegrees != tilt; }));
+        EXPECT_NE(driver.pictureOf(frm3DMaze), steep);
     });
 }
 

@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/windows/help_box.h"
 #include "stories.h"
 
 namespace ombrelia {
@@ -32,6 +34,21 @@ TEST(Windows, the_editor_is_active_with_its_title_in_the_active_colour) {
         EXPECT_TRUE(driver.waitFor([] { return Form1.Label11.ForeColor == rgb(255, 255, 255); }));
         driver.inProgram(
             [] { EXPECT_EQ(Form1.Label11.Caption, "Ombrelia Terrain Editor - Medium Map"); });
+    });
+}
+
+TEST(Windows, the_whole_title_bar_goes_dark_behind_another_window) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        const int place = static_cast<int>(4 * driver.scale());  // left of the title's letters
+        const int bright = qGray(driver.pictureOf(Form1).pixel(place, 3 * place));
+        driver.click(Form1.NTool(button::kHelp + kOverlayOffset));
+        ASSERT_TRUE(driver.waitForWindow(HelpBox));
+        ASSERT_TRUE(driver.waitFor([] { return Form1.Label11.ForeColor == TitleInactiveColor; }));
+        EXPECT_LT(qGray(driver.pictureOf(Form1).pixel(place, 3 * place)), bright / 2);
+        driver.click(HelpBox.NTool(button::kHelpClose));
+        ASSERT_TRUE(driver.waitFor([] { return Form1.Label11.ForeColor == TitleActiveColor; }));
+        EXPECT_EQ(qGray(driver.pictureOf(Form1).pixel(place, 3 * place)), bright);
     });
 }
 

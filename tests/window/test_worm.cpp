@@ -6,6 +6,7 @@
 
 #include "core/objects.h"
 #include "core/windows/form2.h"
+#include "core/windows/help_box.h"
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
@@ -21,11 +22,19 @@ bool openGame(ScreenDriver& driver) {
     if (!openEditor(driver, button::kSizeSmall)) {
         return false;
     }
-    driver.inProgram([] {
-        HeightMap.fill(77);
-        runHandler(openWormGame);
+    driver.inProgram([] { HeightMap.fill(77); });
+    driver.click(Form1.NTool(button::kHelp + kOverlayOffset));
+    if (!driver.waitForWindow(HelpBox)) {
+        return false;
+    }
+    driver.click(HelpBox.LTool(button::kHelpAbout));
+    driver.doubleClick(HelpBox.Label41);
+    // The game has the keyboard, and what it shows at first is over.
+    return driver.waitForWindow(Form2) && driver.waitFor([] {
+        const QWidget* active = QApplication::activeWindow();
+        return !isHandling() && active != nullptr &&
+               active->windowTitle().toStdString() == Form2.Caption;
     });
-    return driver.waitForWindow(Form2);
 }
 
 void putFoodAway() {
@@ -42,6 +51,17 @@ bool runIntoTheWall(ScreenDriver& driver) {
         Heading = kHeadRight;
     });
     return driver.waitFor(isHandling);
+}
+
+// A busy window manager can miss its key.
+bool closeByKey(ScreenDriver& driver) {
+    bool isClosed = false;
+    for (int i = 0; i < 10 && !isClosed; ++i) {
+        driver.key("alt+F4");
+        driver.rest(200);
+        driver.inProgram([&] { isClosed = !Form2.Loaded; });
+    }
+    return isClosed;
 }
 
 }  // namespace
@@ -88,8 +108,7 @@ TEST(WormWindow, a_close_during_a_fade_cuts_it_short) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openGame(driver));
         ASSERT_TRUE(runIntoTheWall(driver));
-        driver.key("alt+F4");
-        EXPECT_TRUE(driver.waitFor([] { return !Form2.Loaded; }));
+        EXPECT_TRUE(closeByKey(driver));
         driver.inProgram([] {
             EXPECT_EQ(Lives, 4);
             EXPECT_TRUE(Form1.Loaded);

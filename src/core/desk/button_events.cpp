@@ -100,6 +100,7 @@ void NTool_MouseMove(EventArgs& args) {
     const int i = buttonOf(args);
     const ButtonRecord& record = OptionStates(i);
     showButtonHint(i);
+    prepareButtonSound();
     wantCursor(kPlainCursor, *args.Source);
     if (HoverTool != i) {
         clearHover();

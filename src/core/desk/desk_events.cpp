@@ -22,6 +22,10 @@ namespace ombrelia {
 
 namespace {
 
+// Faces of the window's picture: the title bar behind the bright text and behind the dim one.
+constexpr int kActiveFace = 0;
+constexpr int kInactiveFace = 1;
+
 // Keeps the hint frame against the editor's right edge.
 void dockHint() {
     HelpFrm.Top = Form1.Top;
@@ -32,6 +36,7 @@ void dockHint() {
 void colorTitle() {
     const bool isActive = services().desktop->activeWindowCaption() == AppName;
     Form1.Label11.ForeColor = isActive ? TitleActiveColor : TitleInactiveColor;
+    Form1.Face.face = isActive ? kActiveFace : kInactiveFace;
 }
 
 // Frame under the pointer, -1 for the viewport behind the frames.

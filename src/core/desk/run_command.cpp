@@ -182,13 +182,12 @@ void RunCommand(int& i) {
     const bool isKnown = command != std::end(kCommands);
     if (isKnown && command->waitsForRun && isNested()) {
         putOff(number, [number] {
-            finishStop();  // the command clears the flag, which no tick would see any more
             int again = number;
             RunCommand(again);
         });
         return;
     }
-    StopFlag = 0;
+    forgetStop();
     if (isToolCommand(i)) {
         runToolCommand(i);
     } else if (isKnown) {
@@ -200,8 +199,6 @@ void ImportCommand() {
     if (!importPicture()) {
         return;
     }
-    // The selection clears the flag, which no tick would see any more.
-    finishStop();
     paintState(button::kMenu, kUp);
     int menu = button::kMenu;
     RunCommand(menu);

@@ -31,6 +31,7 @@ struct Form1Window : Window {
     Label ThreeLabel;
     PictureBox MenuFrame;
     PictureBox LightFrame;
+    ControlArray<Label> GroupText;  // captions of the groups
 
     // Colour strip and picked colour.
     PictureBox Picker;

@@ -20,6 +20,9 @@ void placeButtons(Form1Window& form, Control& container, const PlacedButton (&ro
     }
 }
 
+constexpr TextStyle kCaption = {.size = 10, .color = skin::kTextQuiet, .align = TextAlign::Center};
+constexpr double kCaptionHeight = 14;
+
 void designTitle(Form1Window& form) {
     designLabel(form.Label11, "Label11", form, {26, 0, 600, 22}, "",
                 {.size = 12, .color = skin::kTitle, .bold = true});
@@ -49,35 +52,35 @@ void designTopStrip(Form1Window& form) {
     designLabel(form.Label22, "Label22", form, {69, 48, 62, 22}, "",
                 {.size = 15, .color = skin::kText, .bold = true});
 
-    designPart(form.ViewFrame, "ViewFrame", form, {138, 25, 90, 59});
-    const PlacedButton modes[] = {{button::k2DMode, 1, 10, Picture::Mode2d},
-                                  {button::k3DMode, 47, 10, Picture::Mode3d}};
+    designPart(form.ViewFrame, "ViewFrame", form, {138, 26, 90, 57});
+    const PlacedButton modes[] = {{button::k2DMode, 2, 15, Picture::Mode2d},
+                                  {button::k3DMode, 47, 15, Picture::Mode3d}};
     placeButtons(form, form.ViewFrame, modes);
 
     designPart(form.TwoFrame, "TwoFrame", form, {236, 26, 132, 57});
-    designLabel(form.TwoLabel, "TwoLabel", form.TwoFrame, {0, 0, 132, 14}, "2D Motion",
-                {.size = 10, .color = skin::kTextQuiet, .align = TextAlign::Center});
+    designLabel(form.TwoLabel, "TwoLabel", form.TwoFrame, {0, 0, 132, kCaptionHeight}, "2D Motion",
+                kCaption);
     const PlacedButton motion2D[] = {{button::kPan2D, 22, 15, Picture::LensPan},
                                      {button::kZoom2D, 68, 15, Picture::LensZoom}};
     placeButtons(form, form.TwoFrame, motion2D);
 
     designPart(form.ThreeFrame, "ThreeFrame", form, {236, 26, 132, 57});
     form.ThreeFrame.Visible = false;
-    designLabel(form.ThreeLabel, "ThreeLabel", form.ThreeFrame, {0, 0, 132, 14}, "3D Motion",
-                {.size = 10, .color = skin::kTextQuiet, .align = TextAlign::Center});
+    designLabel(form.ThreeLabel, "ThreeLabel", form.ThreeFrame, {0, 0, 132, kCaptionHeight},
+                "3D Motion", kCaption);
     const PlacedButton motion3D[] = {{button::kRotate3D, 0, 15, Picture::MotionRotate},
                                      {button::kPan3D, 45, 15, Picture::MotionPan},
                                      {button::kZoom3D, 90, 15, Picture::MotionZoom}};
     placeButtons(form, form.ThreeFrame, motion3D);
 
-    designPart(form.MenuFrame, "MenuFrame", form, {378, 25, 233, 59});
-    const PlacedButton menu[] = {{button::kMenu, 3, 13, Picture::None},
-                                 {button::kOptions, 119, 13, Picture::None}};
+    designPart(form.MenuFrame, "MenuFrame", form, {376, 26, 286, 57});
+    const PlacedButton menu[] = {{button::kMenu, 25, 18, Picture::None},
+                                 {button::kOptions, 151, 18, Picture::None}};
     placeButtons(form, form.MenuFrame, menu);
 
-    designPart(form.LightFrame, "LightFrame", form, {670, 25, 94, 59});
-    const PlacedButton light[] = {{button::kStop, 3, 10, Picture::Traffic},
-                                  {button::kHelp, 49, 10, Picture::ToolHelp}};
+    designPart(form.LightFrame, "LightFrame", form, {670, 26, 94, 57});
+    const PlacedButton light[] = {{button::kStop, 2, 15, Picture::Traffic},
+                                  {button::kHelp, 49, 15, Picture::ToolHelp}};
     placeButtons(form, form.LightFrame, light);
 }
 
@@ -89,30 +92,49 @@ void designTools(Form1Window& form) {
 
     designPart(form.ToolFrame, "ToolFrame", form, {321, 86, 130, 261});
     const PlacedButton tools[] = {
-        {button::kPencil, 1, 2, Picture::ToolPencil},
-        {button::kLine, 44, 2, Picture::ToolLine},
-        {button::kRaise, 87, 2, Picture::ToolRaise},
-        {button::kLower, 1, 44, Picture::ToolLower},
-        {button::kColorPicker, 44, 44, Picture::ToolPicker},
-        {button::kFractal, 87, 44, Picture::ToolFractal},
-        {button::kMountain, 1, 96, Picture::ToolMountain},
-        {button::kCanyon, 44, 96, Picture::ToolCanyon},
-        {button::kPlain, 87, 96, Picture::ToolPlain},
-        {button::kWavy, 1, 148, Picture::ToolWavy},
-        {button::kMountainRange, 44, 148, Picture::ToolMountainRange},
-        {button::kRiver, 87, 148, Picture::ToolRiver},
-        {button::kVolcano, 1, 190, Picture::ToolVolcano},
+        {button::kPencil, 1, 15, Picture::ToolPencil},
+        {button::kLine, 44, 15, Picture::ToolLine},
+        {button::kRaise, 87, 15, Picture::ToolRaise},
+        {button::kLower, 1, 57, Picture::ToolLower},
+        {button::kColorPicker, 44, 57, Picture::ToolPicker},
+        {button::kFractal, 87, 57, Picture::ToolFractal},
+        {button::kMountain, 1, 114, Picture::ToolMountain},
+        {button::kCanyon, 44, 114, Picture::ToolCanyon},
+        {button::kPlain, 87, 114, Picture::ToolPlain},
+        {button::kWavy, 1, 156, Picture::ToolWavy},
+        {button::kMountainRange, 44, 156, Picture::ToolMountainRange},
+        {button::kRiver, 87, 156, Picture::ToolRiver},
+        {button::kVolcano, 1, 198, Picture::ToolVolcano},
     };
     placeButtons(form, form.ToolFrame, tools);
-    designLabel(form.Label1, "Label1", form.ToolFrame, {50, 190, 78, 12}, "Draw height",
+    designLabel(form.Label1, "Label1", form.ToolFrame, {50, 198, 78, 13}, "Draw height",
                 {.size = 10, .color = skin::kTextQuiet});
-    designPart(form.Picture3, "Picture3", form.ToolFrame, {50, 205, 78, 24});
+    designPart(form.Picture3, "Picture3", form.ToolFrame, {50, 212, 78, 24});
     form.Picture3.Opaque = true;
     form.Picture3.BackColor = skin::kWell;
     designPart(form.PickedColor, "PickedColor", form.Picture3, {2, 2, 74, 20});
     form.PickedColor.Opaque = true;
-    designLabel(form.Label19, "Label19", form.ToolFrame, {50, 231, 78, 16}, "",
+    designLabel(form.Label19, "Label19", form.ToolFrame, {50, 238, 78, 16}, "",
                 {.size = 12, .bold = true});
+}
+
+// What stands over the groups, or over a part of one.
+void designCaptions(Form1Window& form) {
+    struct Caption {
+        PictureBox& group;
+        double left, top, width;
+        const char* text;
+    };
+    const Caption captions[] = {
+        {form.ViewFrame, 0, 0, 90, "View"},   {form.MenuFrame, 0, 0, 286, "Program"},
+        {form.LightFrame, 2, 0, 42, "Stop"},  {form.LightFrame, 49, 0, 42, "Help"},
+        {form.ToolFrame, 0, 1, 130, "Tools"}, {form.ToolFrame, 0, 100, 130, "Objects"},
+    };
+    int i = 0;
+    for (const Caption& row : captions) {
+        designLabel(form.GroupText.make(i++), "GroupText", row.group,
+                    {row.left, row.top, row.width, kCaptionHeight}, row.text, kCaption);
+    }
 }
 
 }  // namespace
@@ -122,6 +144,7 @@ void designDesk(Form1Window& form) {
     designMap(form);
     designTopStrip(form);
     designTools(form);
+    designCaptions(form);
 }
 
 }  // namespace ombrelia

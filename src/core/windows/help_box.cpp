@@ -31,7 +31,6 @@ constexpr double kGap = 10;
 constexpr double kLinkHeight = 19;
 constexpr int kFirstTextPage = 200;
 constexpr double kToolPitch = 44;
-constexpr double kEntryPitch = 36;  // two lines of the contents
 constexpr double kToolSide = 32;
 constexpr double kIconSide = 36;
 constexpr double kIconTextTop = 64;
@@ -102,15 +101,11 @@ double designLinks(PictureBox& page, double top) {
 }
 
 double designContents(PictureBox& page, double top) {
-    top += kGap - 2;
     for (std::size_t i = 0; i < std::size(kContentsEntries); ++i) {
-        Label& entry = HelpBox.ContLbl.make(static_cast<int>(i));
-        designLabel(entry, "ContLbl", page, {kMargin, top, kTextWidth, kEntryPitch - 1},
-                    kContentsEntries[i], kLinkStyle);
-        entry.Underline = true;
-        top += kEntryPitch;
+        top = designText(HelpBox.ContLbl.make(static_cast<int>(i)), "ContLbl", page, top + kGap,
+                         kContentsEntries[i], kLinkStyle);
     }
-    return top - kGap;
+    return top;
 }
 
 double designToolList(PictureBox& page, double top) {

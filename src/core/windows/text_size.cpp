@@ -17,7 +17,7 @@ constexpr int kWidths[] = {
 constexpr int kWidestLetter = 1000;
 
 // Letters are set on whole pixels at small sizes, which widens some.
-constexpr double kWidthReserve = 1.05;
+constexpr double kWidthReserve = 1.02;
 constexpr double kLineHeight = 1.37;  // in letter sizes
 
 double letterWidth(char letter) {

@@ -224,7 +224,9 @@ void HeadlessPlatform::end() {
 
 void HeadlessPlatform::failed(const std::string& sentence) {
     Failures.push_back(sentence);
-    if (ThrowOnFailure) {
+    if (OnFailure) {
+        OnFailure(sentence);
+    } else if (ThrowOnFailure) {
         throw HandlerFailed{sentence};
     }
 }

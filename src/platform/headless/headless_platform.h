@@ -66,6 +66,7 @@ class HeadlessPlatform : public Dialogs,
 
     // Requests in order, as `dump calls` writes them.
     std::vector<std::string> Calls;
+    bool SoundIsPrepared = false;  // a sound was announced
     bool HasEnded = false;
 
     // Section, then key, then value.
@@ -83,6 +84,9 @@ class HeadlessPlatform : public Dialogs,
     // Sentences of failures; with ThrowOnFailure the first one ends the event instead.
     std::vector<std::string> Failures;
     bool ThrowOnFailure = false;
+
+    // Takes the place of what ThrowOnFailure says, where it is there.
+    std::function<void(const std::string& sentence)> OnFailure;
 
     // Caption that activeWindowCaption gives.
     std::string ActiveCaption = "Ombrelia Terrain Editor";
@@ -124,6 +128,7 @@ class HeadlessPlatform : public Dialogs,
     void end() override;
     void failed(const std::string& sentence) override;
     std::string programFile(const std::string& name) override;
+    void prepare() override { SoundIsPrepared = true; }
     void play(const std::string& path) override;
 
   private:

@@ -47,7 +47,7 @@ void silenceMessages() {
     }
 }
 
-// The library, opened at the first sound: it is no part of the program's start.
+// The library, opened when the first sound is near: it is no part of the program's start.
 class Player {
   public:
     Player() {
@@ -67,6 +67,11 @@ class Player {
         }
         setProperties(context_, CA_PROP_APPLICATION_NAME, "Ombrelia Terrain Editor",
                       CA_PROP_CANBERRA_ENABLE, "1", nullptr);
+        // The way to the sound server takes longer than a click may.
+        if (const auto open =
+                reinterpret_cast<decltype(&ca_context_open)>(dlsym(library, "ca_context_open"))) {
+            open(context_);
+        }
     }
 
     void play(const std::string& path) {
@@ -117,15 +122,20 @@ std::string CanberraSound::programFile(const std::string& name) {
     return isOrdinaryFile(beside) ? beside : folder + "/../share/ombrelia-terrain-editor/" + name;
 }
 
-void CanberraSound::play(const std::string& path) {
-    if (queue_ == nullptr) {
-        queue_ = std::make_shared<Queue>();
-        try {
-            std::thread(playAll, queue_).detach();
-        } catch (const std::system_error&) {
-            return;  // no thread to be had: silence
-        }
+void CanberraSound::prepare() {
+    if (queue_ != nullptr) {
+        return;
     }
+    queue_ = std::make_shared<Queue>();
+    try {
+        std::thread(playAll, queue_).detach();
+    } catch (const std::system_error&) {
+        // No thread to be had: silence.
+    }
+}
+
+void CanberraSound::play(const std::string& path) {
+    prepare();
     {
         const std::lock_guard lock(queue_->mutex);
         if (queue_->waiting.size() >= kMostWaiting) {

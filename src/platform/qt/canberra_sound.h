@@ -11,6 +11,7 @@ namespace ombrelia {
 class CanberraSound : public Sound {
   public:
     std::string programFile(const std::string& name) override;
+    void prepare() override;
     void play(const std::string& path) override;
 
   private:
@@ -18,7 +19,7 @@ class CanberraSound : public Sound {
 
     static void playAll(const std::shared_ptr<Queue>& queue);
 
-    // Shared with the thread, which outlives everything. Made at the first sound.
+    // Shared with the thread, which outlives everything. Made when the first sound is near.
     std::shared_ptr<Queue> queue_;
 };
 

@@ -2,12 +2,16 @@
 
 #include <QFontMetrics>
 #include <QStringList>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
 namespace ombrelia {
 
 namespace {
+
+// Distance of the lines of a wrapped text, in letter sizes.
+constexpr double kLinePitch = 1.32;
 
 Qt::Alignment alignmentOf(const Label& label) {
     switch (label.Align) {
@@ -19,6 +23,45 @@ Qt::Alignment alignmentOf(const Label& label) {
             return Qt::AlignLeft;
     }
 }
+
+QFont fontOf(const Label& label, double scale) {
+    return fontFor(label.FontSize * scale, label.Bold, label.Underline);
+}
+
+// A text on several lines, with more air between them than the letters ask for.
+class Paragraphs {
+  public:
+    Paragraphs(const Label& label, int width, double scale)
+        : layout_(shownText(label.Caption).replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)),
+                  fontOf(label, scale)),
+          pitch_(std::round(label.FontSize * kLinePitch * scale)) {
+        QTextOption option(alignmentOf(label));
+        option.setWrapMode(QTextOption::WordWrap);
+        layout_.setTextOption(option);
+        layout_.beginLayout();
+        for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+            line.setLineWidth(width);
+            line.setPosition({0, (layout_.lineCount() - 1) * pitch_});
+        }
+        layout_.endLayout();
+    }
+
+    void draw(QPainter& painter, const QPoint& corner) const { layout_.draw(&painter, corner); }
+
+    QSize size() const {
+        double width = 0;
+        double height = 0;
+        for (int i = 0; i < layout_.lineCount(); ++i) {
+            width = std::max(width, layout_.lineAt(i).naturalTextWidth());
+            height = i * pitch_ + layout_.lineAt(i).height();
+        }
+        return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+    }
+
+  private:
+    QTextLayout layout_;
+    double pitch_;
+};
 
 }  // namespace
 
@@ -36,18 +79,23 @@ QString shownText(const std::string& caption) {
     return QString::fromStdString(caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
 }
 
-int textFlags(const Label& label) {
+void drawLabelText(QPainter& painter, const Label& label, const QRect& place, double scale) {
     if (label.WordWrap) {
-        return static_cast<int>(Qt::AlignTop | alignmentOf(label)) |
-               static_cast<int>(Qt::TextWordWrap);
+        Paragraphs(label, place.width(), scale).draw(painter, place.topLeft());
+        return;
     }
-    return static_cast<int>(Qt::AlignVCenter | alignmentOf(label));
+    painter.setFont(fontOf(label, scale));
+    painter.drawText(place, static_cast<int>(Qt::AlignVCenter | alignmentOf(label)),
+                     shownText(label.Caption));
 }
 
 QSize textSizeDevice(const Label& label, double scale) {
-    const QFontMetrics metrics(fontFor(label.FontSize * scale, label.Bold, label.Underline));
-    const QRect room(0, 0, static_cast<int>(std::lround(label.Width * scale)), 0);
-    return metrics.boundingRect(room, textFlags(label), shownText(label.Caption)).size();
+    const int width = static_cast<int>(std::lround(label.Width * scale));
+    if (label.WordWrap) {
+        return Paragraphs(label, width, scale).size();
+    }
+    const QFontMetrics metrics(fontOf(label, scale));
+    return metrics.boundingRect(QRect(0, 0, width, 0), 0, shownText(label.Caption)).size();
 }
 
 }  // namespace ombrelia

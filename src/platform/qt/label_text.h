@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QFont>
+#include <QPainter>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -15,8 +17,9 @@ QFont fontFor(double sizeDevice, bool isBold, bool isUnderlined);
 // A text as it shows: "&&" stands for one "&".
 QString shownText(const std::string& caption);
 
-// How the label's lines are put into its place, for QPainter::drawText.
-int textFlags(const Label& label);
+// Draws a label's text into its place on the screen with the painter's pen; scale is device pixels
+// to a unit.
+void drawLabelText(QPainter& painter, const Label& label, const QRect& place, double scale);
 
 // Room that the label's text takes within the label's width, device pixels.
 QSize textSizeDevice(const Label& label, double scale);

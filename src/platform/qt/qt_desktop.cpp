@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QPointer>
 #include <QScreen>
 #include <QThread>
 #include <QUrl>
 #include <QWindow>
 #include <utility>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/dispatch.h"
@@ -21,8 +23,8 @@ namespace ombrelia {
 
 namespace {
 
-// Events are handled at most this often while a handler runs; a yield in between returns at once.
-constexpr qint64 kYieldNanoseconds = 8'000'000;
+// Changes are looked for at most this often while a handler runs; events are heard more often.
+constexpr qint64 kSyncMilliseconds = 8;
 
 // How long a window that says "please wait" is waited for before the work begins.
 constexpr int kFirstPictureMilliseconds = 60;
@@ -52,7 +54,7 @@ void settleRegisters() {}
 }  // namespace
 
 QtDesktop::QtDesktop() {
-    sinceEvents_.start();
+    sinceSync_.start();
 }
 
 QtDesktop::~QtDesktop() {
@@ -61,35 +63,59 @@ QtDesktop::~QtDesktop() {
     }
 }
 
-QRect QtDesktop::freeArea() const {
-    return QGuiApplication::primaryScreen()->availableGeometry();
-}
-
 void QtDesktop::chooseScale(double widthUnits, double heightUnits) {
-    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
-    const QRect free = freeArea();
-    scale_ = kScales[std::size(kScales) - 1];
-    for (const double candidate : kScales) {
-        if (widthUnits * candidate <= free.width() * ratio &&
-            heightUnits * candidate <= free.height() * ratio) {
-            scale_ = candidate;
-            return;
-        }
-    }
+    widthUnits_ = widthUnits;
+    heightUnits_ = heightUnits;
 }
 
-double QtDesktop::scaleOf(const Window& window) const {
-    if (!window.HasFrame) {
-        return scale_;
-    }
-    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
-    const double free = (freeArea().height() - kFrameHeight) * ratio;
+double QtDesktop::scaleOn(const QScreen& screen) const {
+    const QSizeF free = QSizeF(screen.availableSize()) * screen.devicePixelRatio();
     for (const double candidate : kScales) {
-        if (candidate <= scale_ && window.Height * candidate <= free) {
+        if (widthUnits_ * candidate <= free.width() && heightUnits_ * candidate <= free.height()) {
             return candidate;
         }
     }
     return kScales[std::size(kScales) - 1];
+}
+
+const QScreen& QtDesktop::screenOf(const Window& window) const {
+    const Window& owner = window.DockedTo == nullptr ? window : *window.DockedTo;
+    for (const auto& [other, view] : views_) {
+        if (other == &owner && view->isVisible()) {
+            return *view->screen();
+        }
+    }
+    const WindowView* parent = dialogParent();
+    return parent == nullptr ? *QGuiApplication::primaryScreen() : *parent->screen();
+}
+
+double QtDesktop::scale() const {
+    const WindowView* parent = dialogParent();
+    return scaleOn(parent == nullptr ? *QGuiApplication::primaryScreen() : *parent->screen());
+}
+
+double QtDesktop::scaleOf(const Window& window) const {
+    const QScreen& screen = screenOf(window);
+    const double scale = scaleOn(screen);
+    if (!window.HasFrame) {
+        return scale;
+    }
+    const double free =
+        (screen.availableSize().height() - kFrameHeight) * screen.devicePixelRatio();
+    for (const double candidate : kScales) {
+        if (candidate <= scale && window.Height * candidate <= free) {
+            return candidate;
+        }
+    }
+    return kScales[std::size(kScales) - 1];
+}
+
+void QtDesktop::rescaleDocked(const Window& host) {
+    for (const auto& [window, view] : views_) {
+        if (window->DockedTo == &host) {
+            view->fitScreen();
+        }
+    }
 }
 
 double QtDesktop::dockedWidth(const Window& window) const {
@@ -128,10 +154,28 @@ bool QtDesktop::runOrEnd(const std::function<void()>& event) {
 
 void QtDesktop::run(const std::function<void()>& event) {
     if (runOrEnd(event)) {
+        tickAfterLongRun();
         wakeTimers();
         sync();
         handled();
         settleRegisters();
+    }
+}
+
+// What a run leaves to the tick after it, as the light that turns green, shall not wait for the
+// next frame.
+void QtDesktop::tickAfterLongRun() {
+    if (isHandling() || !std::exchange(hasHandledEvents_, false)) {
+        return;
+    }
+    std::vector<QPointer<WindowView>> views;
+    for (const auto& [window, view] : views_) {
+        views.emplace_back(view);
+    }
+    for (const QPointer<WindowView>& view : views) {
+        if (!view.isNull() && view->window().Loaded) {
+            view->tickAtOnce();
+        }
     }
 }
 
@@ -285,14 +329,18 @@ void QtDesktop::waitUntil(const std::function<bool()>& isDone, qint64 millisecon
 void QtDesktop::yield() {
     if (yieldMilliseconds_ > 0) {
         QThread::msleep(static_cast<unsigned long>(yieldMilliseconds_));
-    } else if (sinceEvents_.nsecsElapsed() < kYieldNanoseconds) {
+    } else if (!yieldClock_.isDue()) {
         return;
     }
     wakeTimers();
-    sync();
+    if (sinceSync_.elapsed() >= kSyncMilliseconds) {
+        sync();
+        sinceSync_.start();
+    }
     QCoreApplication::processEvents();
+    hasHandledEvents_ = true;
     settleRegisters();
-    sinceEvents_.start();
+    yieldClock_.restart();
 }
 
 void QtDesktop::beginWindowMove(Window& window) {

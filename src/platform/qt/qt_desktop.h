@@ -2,13 +2,14 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QRect>
+#include <QScreen>
 #include <functional>
 #include <map>
 
 #include "platform/qt/input_keeper.h"
 #include "platform/qt/skin.h"
 #include "platform/services.h"
+#include "platform/yield_clock.h"
 
 namespace ombrelia {
 
@@ -22,19 +23,23 @@ class QtDesktop : public Desktop {
     // The windows for which the scale is chosen: the editor and what docks to it, widths added.
     void chooseScale(double widthUnits, double heightUnits);
 
-    // Device pixels to a unit.
-    double scale() const { return scale_; }
+    // Device pixels to a unit, for dialogs.
+    double scale() const;
 
-    // The same for one window: smaller where it would not fit the screen with its frame.
+    // The same for one window on its screen: smaller where it would not fit with its frame.
     double scaleOf(const Window& window) const;
+
+    // The screen that a window is on, of a docked one its host's; where it is to open if it is not
+    // shown yet.
+    const QScreen& screenOf(const Window& window) const;
+
+    // A window has another scale: what docks to it takes the same.
+    void rescaleDocked(const Window& host);
 
     Skin& skin() { return skin_; }
 
     // Makes each yield handle events and last at least this long; 0: as fast as can be.
     void setYieldTime(int milliseconds) { yieldMilliseconds_ = milliseconds; }
-
-    // The free area of the screen on which windows open, logical pixels.
-    QRect freeArea() const;
 
     // Width in units of what docks to the window's right edge.
     double dockedWidth(const Window& window) const;
@@ -84,14 +89,19 @@ class QtDesktop : public Desktop {
     // Shows what changed; true if anything had.
     bool sync();
     void handled();
+    void tickAfterLongRun();
     bool runOrEnd(const std::function<void()>& event);
+    double scaleOn(const QScreen& screen) const;
     void showDocked(Window& host);
     void waitUntil(const std::function<bool()>& isDone, qint64 milliseconds);
 
     Skin skin_;
-    double scale_ = 1;
+    double widthUnits_ = 0;
+    double heightUnits_ = 0;
     std::map<Window*, WindowView*> views_;
-    QElapsedTimer sinceEvents_;
+    YieldClock yieldClock_;
+    QElapsedTimer sinceSync_;        // of a yield
+    bool hasHandledEvents_ = false;  // in a yield of the running handler
     QElapsedTimer sinceRefresh_;
     InputKeeper inputKeeper_;
     int yieldMilliseconds_ = 0;

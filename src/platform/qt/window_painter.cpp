@@ -64,9 +64,8 @@ class Painting {
         if (label.Caption.empty()) {
             return;
         }
-        painter_.setFont(fontFor(label.FontSize * tools_.scale, label.Bold, label.Underline));
         painter_.setPen(colorFor(label.ForeColor));
-        painter_.drawText(place, textFlags(label), shownText(label.Caption));
+        drawLabelText(painter_, label, place, tools_.scale);
     }
 
     void drawPictureBox(const PictureBox& box, const QRect& place) {

@@ -8,6 +8,7 @@
 #include <QStyleHints>
 #include <QWindow>
 #include <cmath>
+#include <utility>
 
 #include "platform/dispatch.h"
 #include "platform/qt/accessibility.h"
@@ -20,12 +21,6 @@ namespace ombrelia {
 
 namespace {
 
-// A timer of the logic fires at most once in a display frame.
-constexpr int kFrameMilliseconds = 16;
-
-// Ticks without any change after which a timer of every frame rests.
-constexpr int kQuietTicks = 4;
-
 MouseButton buttonOf(Qt::MouseButton button) {
     switch (button) {
         case Qt::LeftButton:
@@ -37,11 +32,6 @@ MouseButton buttonOf(Qt::MouseButton button) {
         default:
             return MouseButton::None;
     }
-}
-
-// A Wayland client neither knows nor chooses where its windows stand.
-bool canPlaceWindows() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 Qt::WindowFlags flagsOf(const Window& window) {
@@ -77,44 +67,6 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
     }
 }
 
-void WindowView::place() {
-    const double logicalPerUnit = scale_ / devicePixelRatioF();
-    const QSize size(static_cast<int>(std::ceil(window_.Width * logicalPerUnit)),
-                     static_cast<int>(std::ceil(window_.Height * logicalPerUnit)));
-    if (frame_ != nullptr) {
-        frame_->place(size, logicalPerUnit);
-    } else {
-        setFixedSize(size);
-    }
-    if (window_.DockedTo != nullptr) {
-        followRecord();
-        return;
-    }
-    if (!canPlaceWindows()) {
-        window_.Left = 0;
-        window_.Top = 0;
-        return;
-    }
-    const QRect free = desktop_.freeArea();
-    const double docked = desktop_.dockedWidth(window_) * logicalPerUnit;
-    const int left = free.left() + static_cast<int>((free.width() - width() - docked) / 2);
-    const int top = free.top() + (free.height() - height()) / 2;
-    move(std::max(free.left(), left), std::max(free.top(), top));
-    window_.Left = pos().x() / logicalPerUnit;
-    window_.Top = pos().y() / logicalPerUnit;
-}
-
-bool WindowView::followRecord() {
-    const double logicalPerUnit = scale_ / devicePixelRatioF();
-    const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
-                        static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
-    if (target == pos()) {
-        return false;
-    }
-    move(target);
-    return true;
-}
-
 WindowView::Shown WindowView::lookOf(const Control& control) const {
     Shown look;
     look.rect = visibleDeviceRect(control, scale_);
@@ -148,6 +100,10 @@ bool WindowView::sync() {
         setWindowTitle(title);
     }
     bool isDifferent = window_.DockedTo != nullptr && followRecord();
+    if (std::exchange(shownFace_, window_.Face) != window_.Face) {
+        update();
+        isDifferent = true;
+    }
     if (shown_.size() != window_.Controls.size()) {
         shown_.assign(window_.Controls.size(), {});
         update();
@@ -165,23 +121,6 @@ bool WindowView::sync() {
         frame_->sync(scale_ / devicePixelRatioF());
     }
     return isDifferent;
-}
-
-void WindowView::syncTimers() {
-    for (Control* control : window_.Controls) {
-        if (control->Kind != ControlKind::Timer) {
-            continue;
-        }
-        auto* timer = static_cast<Timer*>(control);
-        SystemTimer& system = timers_[timer];
-        system.quietTicks = 0;
-        const bool isWanted = window_.Loaded && timer->Enabled && timer->Interval > 0;
-        if (isWanted && !system.basic.isActive()) {
-            system.basic.start(std::max(kFrameMilliseconds, timer->Interval), this);
-        } else if (!isWanted) {
-            system.basic.stop();
-        }
-    }
 }
 
 void WindowView::paintEvent(QPaintEvent* event) {
@@ -384,13 +323,6 @@ void WindowView::closeEvent(QCloseEvent* event) {
     desktop_.run([this] { deliverClose(window_); });
 }
 
-void WindowView::moveEvent(QMoveEvent* /*event*/) {
-    const double logicalPerUnit = scale_ / devicePixelRatioF();
-    window_.Left = pos().x() / logicalPerUnit;
-    window_.Top = pos().y() / logicalPerUnit;
-    desktop_.wakeTimers();
-}
-
 void WindowView::keyPressEvent(QKeyEvent* event) {
     if (window_.handlerOf(Event::KeyDown) == nullptr) {
         QWidget::keyPressEvent(event);
@@ -399,34 +331,6 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
     EventArgs args;
     args.KeyCode = virtualKeyOf(*event);
     desktop_.run([&] { deliver(window_, Event::KeyDown, args); });
-}
-
-void WindowView::timerEvent(QTimerEvent* event) {
-    if (desktop_.isWaiting()) {
-        return;
-    }
-    for (auto& [timer, system] : timers_) {
-        if (system.basic.timerId() == event->timerId()) {
-            tick(*timer, system);
-            return;
-        }
-    }
-}
-
-void WindowView::tick(Timer& timer, SystemTimer& system) {
-    const QPointer<WindowView> self(this);
-    const bool isChanged = desktop_.runTick([&timer] { deliver(timer, Event::Timer); });
-    if (self.isNull()) {
-        return;
-    }
-    if (timer.Interval >= kFrameMilliseconds) {
-        syncTimers();  // the tick may have switched its own timer off or on again
-        return;
-    }
-    system.quietTicks = isChanged ? 0 : system.quietTicks + 1;
-    if (system.quietTicks >= kQuietTicks && !isHandling()) {
-        system.basic.stop();
-    }
 }
 
 void WindowView::resizeEvent(QResizeEvent* event) {

@@ -17,6 +17,9 @@ namespace ombrelia {
 
 class QtDesktop;
 
+// A Wayland client neither knows nor chooses where its windows stand.
+bool canPlaceWindows();
+
 class WindowView : public QWidget {
   public:
     WindowView(Window& window, QtDesktop& desktop);
@@ -38,8 +41,14 @@ class WindowView : public QWidget {
     // docks to it.
     void place();
 
+    // Takes the scale and the density of the screen that the window is on now.
+    void fitScreen();
+
     // Starts and stops the system timers to match the record; a resting one starts again.
     void syncTimers();
+
+    // Fires the timers of every frame at once; the next tick comes a frame later.
+    void tickAtOnce();
 
     // The press that is being handled may become a move of the window.
     void armMove() { isMoveArmed_ = true; }
@@ -59,6 +68,7 @@ class WindowView : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
@@ -94,11 +104,14 @@ class WindowView : public QWidget {
     bool moveWindow(QMouseEvent* event);
     void deliverDrag(Event event, const QPointF& units);
     QRect logicalRect(const QRect& device) const;
+    void takeSize();
     int menuHeight() const { return frame_ == nullptr ? 0 : frame_->menuHeight(); }
 
     Window& window_;
     QtDesktop& desktop_;
     double scale_;
+    double ratio_ = 0;       // device pixels to a logical one, at which the window has its size
+    PictureFace shownFace_;  // of the window itself
     std::vector<Shown> shown_;
     std::map<Timer*, SystemTimer> timers_;
     std::unique_ptr<FrameParts> frame_;  // of a window that is sized by hand

@@ -34,7 +34,7 @@ void moveScale() {
     view.ScaleLeft = static_cast<float>(MapPanX + MapZoom);
 }
 
-// Required: both copies are made; the first paints with the scale of before
+// Required: both copies count; the first paints with the scale of before
 // (both_copies_are_made_under_zoom).
 void copyWithOldScale() {
     Surface& view = Form1.MapView.Canvas;
@@ -46,13 +46,32 @@ void copyWithOldScale() {
                        {-p / dx, -q / dy, kViewSide / dx, kViewSide / dy});
 }
 
-void copyWithNewScale() {
-    Surface& view = Form1.MapView.Canvas;
+// Where the second copy reads, in pixels of the back buffer.
+Surface::Area sourceOfNewScale(float left, float top) {
+    const Surface& view = Form1.MapView.Canvas;
     const float sx = view.ScaleWidth / static_cast<float>(MapSize);
     const float sy = view.ScaleHeight / static_cast<float>(MapSize);
+    return {-left / sx, -top / sy, kViewSide / sx, kViewSide / sy};
+}
+
+void copyWithNewScale() {
+    Surface& view = Form1.MapView.Canvas;
     view.stretchedCopy(Form1.Mapview2.Canvas,
                        {-view.ScaleLeft, -view.ScaleTop, kViewSide, kViewSide},
-                       {-view.ScaleLeft / sx, -view.ScaleTop / sy, kViewSide / sx, kViewSide / sy});
+                       sourceOfNewScale(view.ScaleLeft, view.ScaleTop));
+}
+
+// Whether every pixel of the first copy is painted over by the second: the scale stays, so both
+// have the same place, and all that the second reads is there.
+bool isFirstCopyLost() {
+    const Surface& view = Form1.MapView.Canvas;
+    const Surface& buffer = Form1.Mapview2.Canvas;
+    const auto left = static_cast<float>(MapPanX + MapZoom);
+    const auto top = static_cast<float>(MapPanY + MapZoom);
+    const Surface::Area source = sourceOfNewScale(left, top);
+    return view.ScaleLeft == left && view.ScaleTop == top && buffer.hasPixelScale() &&
+           source.x >= 0 && source.y >= 0 && source.x + source.width <= buffer.width() &&
+           source.y + source.height <= buffer.height();
 }
 
 }  // namespace
@@ -68,7 +87,7 @@ void ApplyMapTransform() {
     view.ScaleWidth = static_cast<float>(kViewSide - 2 * MapZoom);
     view.ScaleHeight = static_cast<float>(kViewSide - 2 * MapZoom);
     clampPans();
-    if (view.ScaleTop <= 0) {
+    if (view.ScaleTop <= 0 && !isFirstCopyLost()) {
         copyWithOldScale();
     }
     moveScale();

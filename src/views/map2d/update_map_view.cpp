@@ -1,7 +1,7 @@
 #include "views/map2d/update_map_view.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cstddef>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
@@ -13,6 +13,7 @@
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
+#include "views/map2d/cell_row.h"
 #include "views/map2d/map_transform.h"
 #include "views/view_mode.h"
 
@@ -39,24 +40,20 @@ class CellPainter {
   public:
     void paintDirtyCells(int y) {
         colors_.update();
-        std::int16_t* heights = HeightMap.row(y);
-        std::int16_t* shadows = ShadowMap.row(y);
+        Surface& buffer = Form1.Mapview2.Canvas;
         const auto cells = static_cast<std::size_t>(MapSize) + 1;
-        if (std::memcmp(heights, shadows, cells * sizeof(std::int16_t)) == 0) {
+        const bool hasPixels = y < buffer.height();
+        const CellRow row{HeightMap.row(y), ShadowMap.row(y), hasPixels ? buffer.row(y) : nullptr,
+                          hasPixels ? std::min(cells, static_cast<std::size_t>(buffer.width())) : 0,
+                          cells};
+        if (!isDirty(row)) {
             return;
         }
-        Surface& buffer = Form1.Mapview2.Canvas;
-        Pixel* pixels = y < buffer.height() ? buffer.row(y) : nullptr;
-        const auto columns = static_cast<std::size_t>(buffer.width());
-        for (std::size_t x = 0; x < cells; ++x) {
-            if (shadows[x] == heights[x]) {
-                continue;
-            }
-            takeColor(heights[x]);
-            if (pixels != nullptr && x < columns) {
-                pixels[x] = last_;
-            }
-            shadows[x] = heights[x];
+        if (colors_.isComplete() && isInRange(row)) {
+            takeLastColor(row);
+            paintCells(row, colors_.data());
+        } else {
+            paintOneByOne(row);
         }
         buffer.changed();
     }
@@ -70,6 +67,27 @@ class CellPainter {
     }
 
   private:
+    void takeLastColor(const CellRow& row) {
+        std::size_t last = row.cells - 1;
+        while (row.shadows[last] == row.heights[last]) {
+            --last;
+        }
+        last_ = colors_.pixel(row.heights[last]);
+    }
+
+    void paintOneByOne(const CellRow& row) {
+        for (std::size_t x = 0; x < row.cells; ++x) {
+            if (row.shadows[x] == row.heights[x]) {
+                continue;
+            }
+            takeColor(row.heights[x]);
+            if (x < row.columns) {
+                row.pixels[x] = last_;
+            }
+            row.shadows[x] = row.heights[x];
+        }
+    }
+
     // Clamps the cell, as each look-up does.
     void takeColor(std::int16_t& height) {
         if (height > 255) {

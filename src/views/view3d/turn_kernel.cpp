@@ -4,16 +4,9 @@
 #include <cmath>
 
 #include "core/objects.h"
+#include "platform/wide_vectors.h"
 #include "views/view3d/cell_painters.h"
 #include "views/view3d/projection.h"
-
-// A second copy of the loops for processors with wider vectors; each step rounds as in the first.
-#if defined(__x86_64__) && defined(__GNUC__)
-#define OMBRELIA_WIDE_VECTORS 1
-#define OMBRELIA_IN_BOTH inline __attribute__((always_inline))
-#else
-#define OMBRELIA_IN_BOTH inline
-#endif
 
 namespace ombrelia::kernel {
 
@@ -185,13 +178,10 @@ OMBRELIA_IN_BOTH bool projectAll(const PointInput& points, const CameraState& ca
            settleFar(count, view, places);
 }
 
-#ifdef OMBRELIA_WIDE_VECTORS
-__attribute__((target("avx2"))) bool projectWide(const PointInput& points,
-                                                 const CameraState& camera,
-                                                 std::array<PixelPoint, kMost>& places) {
+OMBRELIA_WIDE bool projectWide(const PointInput& points, const CameraState& camera,
+                               std::array<PixelPoint, kMost>& places) {
     return projectAll(points, camera, places);
 }
-#endif
 
 }  // namespace
 
@@ -206,12 +196,8 @@ bool projectNarrow(const PointInput& points, const CameraState& camera,
 
 bool projectPoints(const PointInput& points, const CameraState& camera,
                    std::array<PixelPoint, kMost>& places) {
-#ifdef OMBRELIA_WIDE_VECTORS
-    if (__builtin_cpu_supports("avx2")) {
-        return projectWide(points, camera, places);
-    }
-#endif
-    return projectNarrow(points, camera, places);
+    return hasWideVectors() ? projectWide(points, camera, places)
+                            : projectNarrow(points, camera, places);
 }
 
 }  // namespace ombrelia::kernel

@@ -28,6 +28,16 @@ TEST_F(CursorsSounds, each_sound_has_its_file) {
     EXPECT_EQ(platform.Calls, (Calls{"sound 100.res", "sound 101.res"}));
 }
 
+TEST_F(CursorsSounds, a_pointer_over_a_button_announces_a_sound_if_they_are_on) {
+    OptionStates(button::kUseSounds).State = kUp;
+    deliverMouse(Form1.NTool(button::kMenu), Event::MouseMove, MouseButton::None, 5, 5);
+    EXPECT_FALSE(platform.SoundIsPrepared);
+    OptionStates(button::kUseSounds).State = kOn;
+    deliverMouse(Form1.NTool(button::kMenu), Event::MouseMove, MouseButton::None, 6, 5);
+    EXPECT_TRUE(platform.SoundIsPrepared);
+    EXPECT_EQ(platform.Calls, Calls{});
+}
+
 TEST_F(CursorsSounds, a_missing_file_is_silence) {
     platform.Files["100.res"] = false;
     PlayButtonSound(1);

@@ -109,6 +109,20 @@ TEST_F(BinaryFileTest, undoing_removes_a_new_file_and_empties_an_old_one) {
     EXPECT_EQ(folder.names(), std::vector<std::string>{"old"});
 }
 
+TEST_F(BinaryFileTest, a_whole_file_is_there_at_once) {
+    ASSERT_TRUE(makeWholeFile(folder / "a", bytesOf("hello")));
+    EXPECT_EQ(contentOf(folder / "a"), "hello");
+    EXPECT_FALSE(makeWholeFile(folder / "a", bytesOf("other")));
+    EXPECT_EQ(contentOf(folder / "a"), "hello");
+    EXPECT_FALSE(makeWholeFile(folder / "gone/a", bytesOf("hello")));
+}
+
+TEST_F(BinaryFileTest, a_whole_file_without_room_is_a_failure_and_not_there) {
+    const FileSizeLimit full(3);
+    EXPECT_THROW(makeWholeFile(folder / "a", bytesOf("hello")), FileFailure);
+    EXPECT_TRUE(folder.names().empty());
+}
+
 TEST_F(BinaryFileTest, the_file_behind_a_loose_link_is_new_and_can_be_undone) {
     std::filesystem::create_symlink("end", folder / "link");
     {

@@ -1,11 +1,15 @@
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <random>
 #include <sstream>
 #include <string>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -146,8 +150,6 @@ TEST(ini_store, the_users_settings_stand_in_the_folder_of_configurations) {
     }
     const Variable none("XDG_CONFIG_HOME", nullptr);
     EXPECT_EQ(userSettingsPath(), "/home/ada/.config" + end);
-    const Variable homeless("HOME", nullptr);
-    EXPECT_EQ(userSettingsPath(), "./.config" + end);
 }
 
 TEST(ini_store, entries_come_sorted_by_key) {
@@ -293,6 +295,36 @@ TEST(ini_store, killed_while_writing_the_file_is_the_old_one_or_the_new_one) {
         }
         ASSERT_EQ(entries, 400);
     }
+}
+
+TEST(ini_store, a_file_that_another_program_holds_is_told_and_not_waited_for_twice) {
+    const Folder folder;
+    IniStore store(folder.file());
+    store.write("Settings", "a", "1");
+    ASSERT_EQ(store.commit(), "");
+    const int lock = ::open((folder.file() + ".lock").c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(::flock(lock, LOCK_EX), 0);
+    store.write("Settings", "a", "2");
+    EXPECT_NE(store.commit().find("Another program holds the file"), std::string::npos);
+    const auto began = std::chrono::steady_clock::now();
+    EXPECT_NE(store.commit(), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(500));
+    EXPECT_EQ(IniStore(folder.file()).read("Settings", "a", ""), "1");
+    ::close(lock);
+    EXPECT_EQ(store.commit(), "") << "the change was kept";
+    EXPECT_EQ(IniStore(folder.file()).read("Settings", "a", ""), "2");
+}
+
+TEST(ini_store, without_a_home_the_account_has_one) {
+    const Variable none("XDG_CONFIG_HOME", nullptr);
+    const std::string account = ::getpwuid(::getuid())->pw_dir;
+    const std::string expected = account + "/.config/quillbyte/ombrelia-terrain-editor.ini";
+    {
+        const Variable homeless("HOME", nullptr);
+        EXPECT_EQ(userSettingsPath(), expected);
+    }
+    const Variable empty("HOME", "");
+    EXPECT_EQ(userSettingsPath(), expected);
 }
 
 }  // namespace ombrelia

@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <vector>
@@ -154,19 +156,44 @@ Corners cornersAt(Places& places, int count, bool isFar) {
     return corners;
 }
 
+void expectSamePolygon(const Corners& corners, int width, int height, int round) {
+    Surface surface = surfaceOf(width, height);
+    PlainPicture plain(width, height);
+    surface.polygon(corners, kRed);
+    std::vector<PlainPicture::Corner> same;
+    for (const PixelPoint& corner : corners) {
+        same.push_back({corner.x, corner.y});
+    }
+    plain.polygon(same, kRed);
+    expectSame(surface, plain, round);
+}
+
 TEST(SurfacePolygon, agrees_with_the_plain_one) {
     Places places(5);
     for (int round = 0; round < 40000; ++round) {
-        const Corners corners = cornersAt(places, 3 + round % 6, round % 2 == 1);
-        Surface surface = surfaceOf(13, 11);
-        PlainPicture plain(13, 11);
-        surface.polygon(corners, kRed);
-        std::vector<PlainPicture::Corner> same;
-        for (const PixelPoint& corner : corners) {
-            same.push_back({corner.x, corner.y});
+        expectSamePolygon(cornersAt(places, 3 + round % 6, round % 2 == 1), 13, 11, round);
+        if (testing::Test::HasFatalFailure()) {
+            return;
         }
-        plain.polygon(same, kRed);
-        expectSame(surface, plain, round);
+    }
+}
+
+// Widths and heights around each of which another way of filling begins, and the longest edges of
+// the ways with short numbers.
+TEST(SurfacePolygon, narrow_and_flat_shapes_agree_with_the_plain_one) {
+    constexpr std::int32_t kSides[] = {1, 2, 3, 4, 5, 6, 20, 63, 64, 65, 66, 300, 8190, 8300};
+    constexpr auto kCount = static_cast<std::int32_t>(std::size(kSides));
+    Places places(6);
+    for (int round = 0; round < 12000; ++round) {
+        const std::int32_t width = kSides[places.below(kCount)];
+        const std::int32_t height = kSides[places.below(kCount)];
+        const std::int32_t left = places.below(80) - std::min(width, 20 + places.below(8200));
+        const std::int32_t top = places.below(30) - std::min(height, 10 + places.below(8200));
+        Corners corners;
+        for (int n = 0; n < 3 + round % 3; ++n) {
+            corners.push_back({left + places.below(width + 1), top + places.below(height + 1)});
+        }
+        expectSamePolygon(corners, 70, 24, round);
         if (testing::Test::HasFatalFailure()) {
             return;
         }

@@ -31,10 +31,18 @@ class PreparedRingTest : public ToolTest {
         const auto found = ring.at(x, y, r, all);
         ASSERT_TRUE(std::equal(found.begin(), found.end(), expected.begin(), expected.end()))
             << "at once, " << x << ' ' << y << ' ' << r;
-        std::vector<std::int32_t> lent;
-        const auto prepared = PreparedRing(r, all).at(x, y, lent);
-        ASSERT_TRUE(std::equal(prepared.begin(), prepared.end(), expected.begin(), expected.end()))
-            << "prepared, " << x << ' ' << y << ' ' << r;
+        NearCells near;
+        PreparedRing(r, all).find(x, y, near);
+        ASSERT_EQ(cellsOf(near), expected) << "prepared, " << x << ' ' << y << ' ' << r;
+    }
+
+    static std::vector<std::int32_t> cellsOf(const NearCells& near) {
+        std::vector<std::int32_t> cells;
+        for (std::size_t n = 0; n < near.offsets.size(); ++n) {
+            const bool isOnMap = near.areAllOnMap || near.isOnMap[n] != 0;
+            cells.push_back(isOnMap ? near.anchor + near.offsets[n] : -1);
+        }
+        return cells;
     }
 };
 

@@ -1,0 +1,186 @@
+// Laid in front of the C library: makes one call that changes a folder fail, or kills the process
+// in it. What to do stands in the environment:
+//   FAULT_FOLDER   calls on files below it are counted; all others pass
+//   FAULT_AT       number of the call that fails, from 1; 0: none
+//   FAULT_KIND     an error number, "short" (a write does one half), "kill" (in front of the call,
+//                  a write after one half) or "killed" (behind the call)
+//   FAULT_LASTS    1: every later call fails too, as on a full disk
+//   FAULT_LOG      a file that gets a line for each counted call
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t kMostFiles = 1024;
+std::array<bool, kMostFiles> isWatched;
+long calls = 0;
+bool isBusy = false;  // inside a call of ours: what it calls itself passes
+
+template <typename Function>
+Function* real(Function* /*type*/, const char* name) {
+    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+const char* wish(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+bool isBelow(const char* path) {
+    const char* folder = wish("FAULT_FOLDER");
+    return path != nullptr && *folder != '\0' &&
+           std::strncmp(path, folder, std::strlen(folder)) == 0;
+}
+
+void note(const char* what, const char* path) {
+    const char* log = wish("FAULT_LOG");
+    if (*log == '\0') {
+        return;
+    }
+    if (std::FILE* file = std::fopen(log, "a")) {
+        std::fprintf(file, "%ld %s %s\n", calls, what, path);
+        std::fclose(file);
+    }
+}
+
+[[noreturn]] void die() {
+    ::kill(::getpid(), SIGKILL);
+    std::abort();
+}
+
+// Counts a call; true if it is the one that the wish is about.
+bool isChosen(const char* what, const char* path) {
+    isBusy = true;
+    ++calls;
+    note(what, path);
+    isBusy = false;
+    const long at = std::atol(wish("FAULT_AT"));
+    return at != 0 && (calls == at || (calls > at && *wish("FAULT_LASTS") == '1'));
+}
+
+bool isKind(const char* kind) {
+    return std::strcmp(wish("FAULT_KIND"), kind) == 0;
+}
+
+// The error of a chosen call, 0 if it is to be done after all.
+int chosenError() {
+    if (isKind("kill")) {
+        die();
+    }
+    return isKind("short") || isKind("killed") ? 0 : std::atoi(wish("FAULT_KIND"));
+}
+
+// Does a call, or fails in its stead.
+template <typename Call>
+int guarded(const char* what, const char* path, Call call) {
+    if (isBusy || !isBelow(path)) {
+        return call();
+    }
+    const bool chosen = isChosen(what, path);
+    if (const int error = chosen ? chosenError() : 0; error != 0) {
+        errno = error;
+        return -1;
+    }
+    const int result = call();
+    if (chosen && isKind("killed")) {
+        die();
+    }
+    return result;
+}
+
+bool isWatchedFile(int file) {
+    return !isBusy && file >= 0 && static_cast<std::size_t>(file) < kMostFiles &&
+           isWatched[static_cast<std::size_t>(file)];
+}
+
+void watch(int file, bool isOn) {
+    if (file >= 0 && static_cast<std::size_t>(file) < kMostFiles) {
+        isWatched[static_cast<std::size_t>(file)] = isOn;
+    }
+}
+
+}  // namespace
+
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+    mode_t mode = 0;
+    if ((flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE) {
+        va_list more;
+        va_start(more, flags);
+        mode = static_cast<mode_t>(va_arg(more, unsigned));
+        va_end(more);
+    }
+    static auto* const next = real<int(const char*, int, ...)>(nullptr, "open");
+    const bool writes = (flags & O_ACCMODE) != O_RDONLY;
+    if (!writes || isBusy || !isBelow(path)) {
+        return next(path, flags, mode);
+    }
+    const int file = guarded("open", path, [&] { return next(path, flags, mode); });
+    watch(file, true);
+    return file;
+}
+
+ssize_t write(int file, const void* bytes, std::size_t count) {
+    static auto* const next = real<ssize_t(int, const void*, std::size_t)>(nullptr, "write");
+    if (!isWatchedFile(file)) {
+        return next(file, bytes, count);
+    }
+    if (!isChosen("write", "")) {
+        return next(file, bytes, count);
+    }
+    if (isKind("kill")) {
+        static_cast<void>(next(file, bytes, count / 2));
+        die();
+    }
+    if (isKind("short")) {
+        return next(file, bytes, count / 2 + 1);
+    }
+    if (const int error = chosenError(); error != 0) {
+        errno = error;
+        return -1;
+    }
+    static_cast<void>(next(file, bytes, count));
+    die();
+}
+
+int fsync(int file) {
+    static auto* const next = real<int(int)>(nullptr, "fsync");
+    return isWatchedFile(file) ? guarded("fsync", wish("FAULT_FOLDER"), [&] { return next(file); })
+                               : next(file);
+}
+
+int close(int file) {
+    static auto* const next = real<int(int)>(nullptr, "close");
+    if (!isWatchedFile(file)) {
+        return next(file);
+    }
+    watch(file, false);
+    const int status = next(file);  // the file is closed even where the system reports an error
+    return guarded("close", wish("FAULT_FOLDER"), [&] { return status; });
+}
+
+int rename(const char* from, const char* to) noexcept {
+    static auto* const next = real<int(const char*, const char*)>(nullptr, "rename");
+    return guarded("rename", to, [&] { return next(from, to); });
+}
+
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
+    static auto* const next = real<int(int, const char*, int, const char*, int)>(nullptr, "linkat");
+    return guarded("linkat", to, [&] { return next(fromFolder, from, toFolder, to, flags); });
+}
+
+int mkdir(const char* path, mode_t mode) noexcept {
+    static auto* const next = real<int(const char*, mode_t)>(nullptr, "mkdir");
+    return guarded("mkdir", path, [&] { return next(path, mode); });
+}
+}

@@ -1,0 +1,216 @@
+// Whether every text stands out from its ground, and every button's states from each other,
+// measured on the windows as they are painted.
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <set>
+#include <vector>
+
+#include "app/bindings.h"
+#include "core/button_numbers.h"
+#include "core/buttons.h"
+#include "core/desk/startup.h"
+#include "core/editor_state.h"
+#include "core/objects.h"
+#include "core/windows/form1.h"
+#include "core/windows/help_box.h"
+#include "core/windows/small_windows.h"
+#include "panels/help_box.h"
+#include "panels/option_frames.h"
+#include "platform/dispatch.h"
+#include "platform/headless/headless_platform.h"
+#include "platform/qt/window_painter.h"
+#include "platform/window_life.h"
+#include "views/view_mode.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr double kLeastContrast = 4.5;  // WCAG 2.1, success criterion 1.4.3
+constexpr double kLeastContrastIdle = 3;
+constexpr double kLeastStep = 15;  // of lightness, 0..100, between two states of a button
+
+// WCAG 2.1: relative luminance, 0..1.
+double luminance(QRgb color) {
+    const auto linear = [](int channel) {
+        const double c = channel / 255.0;
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
+           0.0722 * linear(qBlue(color));
+}
+
+double contrast(double a, double b) {
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+// CIE 1976 lightness, 0..100.
+double lightness(double luminance) {
+    return luminance > 0.008856 ? 116 * std::cbrt(luminance) - 16 : 903.3 * luminance;
+}
+
+class Contrast : public testing::Test {
+  protected:
+    Contrast() {
+        platform.install();
+        resetProcess();
+        startEditor();
+        for (Window* window : {static_cast<Window*>(&Form1), static_cast<Window*>(&HelpBox),
+                               static_cast<Window*>(&SizeSelect), static_cast<Window*>(&Form3),
+                               static_cast<Window*>(&HelpFrm)}) {
+            showWindow(*window);
+        }
+        Form1.Label11.Caption = "Ombrelia Terrain Editor";
+        Form1.Label11.ForeColor = TitleActiveColor;
+        Form1.Label22.Caption = "1000m";
+        Form1.WorkWhat.Caption = "Working";
+    }
+
+    QImage paint(Window& window, double scale) {
+        QImage image(static_cast<int>(std::lround(window.Width * scale)),
+                     static_cast<int>(std::lround(window.Height * scale)), QImage::Format_RGB32);
+        QPainter painter(&image);
+        paintWindow(painter, window, image.rect(), {skin, scale});
+        return image;
+    }
+
+    // What the window shows without its texts.
+    QImage paintGround(Window& window, double scale) {
+        std::vector<std::string> captions;
+        for (Control* part : window.Controls) {
+            captions.push_back(part->Caption);
+            if (part->Kind == ControlKind::Label) {
+                part->Caption.clear();
+            }
+        }
+        const QImage ground = paint(window, scale);
+        for (std::size_t i = 0; i < captions.size(); ++i) {
+            window.Controls[i]->Caption = captions[i];
+        }
+        return ground;
+    }
+
+    // The strongest pixel of the letters against the ground below it, for each label that is
+    // wholly in sight; of a group alone, if there is one.
+    void expectTextsToStandOut(Window& window, double least = kLeastContrast,
+                               const Control* group = nullptr) {
+        for (const double scale : {1.0, 2.0}) {
+            const QImage shown = paint(window, scale);
+            const QImage ground = paintGround(window, scale);
+            for (const Control* part : window.Controls) {
+                const QRect place = visibleDeviceRect(*part, scale);
+                if (part->Kind != ControlKind::Label || part->Caption.empty() ||
+                    (group != nullptr && part->Parent != group) ||
+                    place != deviceRect(*part, scale)) {
+                    continue;
+                }
+                double best = 1;
+                for (int y = place.top(); y <= place.bottom(); ++y) {
+                    for (int x = place.left(); x <= place.right(); ++x) {
+                        best = std::max(best, contrast(luminance(shown.pixel(x, y)),
+                                                       luminance(ground.pixel(x, y))));
+                    }
+                }
+                measured.insert(part);
+                EXPECT_GE(best, least)
+                    << part->Name << " " << part->Index << " at " << scale << ": " << part->Caption;
+            }
+        }
+    }
+
+    // A face in shades of grey: the lightness of each pixel as it shows on the ground of buttons.
+    std::vector<double> greyOf(Picture picture, int face) {
+        const PictureInfo& info = pictureInfo(picture);
+        QImage image(info.width * 2, info.height * 2, QImage::Format_RGB32);
+        image.fill(QColor(0x24, 0x30, 0x44));
+        QPainter painter(&image);
+        painter.drawImage(0, 0, skin.face({picture, face}, image.width(), image.height()));
+        painter.end();
+        std::vector<double> grey;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                grey.push_back(lightness(luminance(image.pixel(x, y))));
+            }
+        }
+        return grey;
+    }
+
+    // Root mean square of the difference of two faces in lightness.
+    double distance(Picture picture, int face, int otherFace) {
+        const std::vector<double> one = greyOf(picture, face);
+        const std::vector<double> other = greyOf(picture, otherFace);
+        double sum = 0;
+        for (std::size_t i = 0; i < one.size(); ++i) {
+            sum += (one[i] - other[i]) * (one[i] - other[i]);
+        }
+        return std::sqrt(sum / static_cast<double>(one.size()));
+    }
+
+    HeadlessPlatform platform;
+    Skin skin;
+    std::set<const Control*> measured;
+};
+
+TEST_F(Contrast, every_text_of_the_editor) {
+    for (const bool isPerspective : {false, true}) {
+        SwitchViewMode(isPerspective ? kMode3D : kMode2D);
+        for (int frame = 0; frame < kOptionFrames; ++frame) {
+            ScrollToFrame(frame);
+            expectTextsToStandOut(Form1);
+        }
+    }
+    Form1.ProgressFrame.Visible = true;  // covers the strip
+    expectTextsToStandOut(Form1, kLeastContrast, &Form1.ProgressFrame);
+    for (const Control* part : Form1.Controls) {
+        if (part->Kind == ControlKind::Label && !part->Caption.empty()) {
+            EXPECT_TRUE(measured.contains(part)) << part->Name << " " << part->Index;
+        }
+    }
+}
+
+TEST_F(Contrast, the_title_of_an_editor_that_rests) {
+    Form1.Label11.ForeColor = TitleInactiveColor;
+    Form1.Face.face = 1;
+    expectTextsToStandOut(Form1, kLeastContrastIdle, &Form1);
+}
+
+TEST_F(Contrast, every_state_of_the_buttons_with_a_text) {
+    for (const int state : {kUp, kHover, kOn}) {
+        for (const int number : {button::kMenu, button::kOptions}) {
+            OptionStates(number).State = static_cast<std::int16_t>(state);
+            DrawButton(number);
+        }
+        expectTextsToStandOut(Form1);
+    }
+}
+
+TEST_F(Contrast, every_page_of_the_help) {
+    std::vector<int> pages;
+    HelpBox.Topic.forEach([&](const PictureBox& page) { pages.push_back(page.Index); });
+    for (const int page : pages) {
+        GotoTopic(page);
+        expectTextsToStandOut(HelpBox);
+    }
+}
+
+TEST_F(Contrast, the_small_windows) {
+    expectTextsToStandOut(SizeSelect);
+    expectTextsToStandOut(Form3);
+    expectTextsToStandOut(HelpFrm);
+}
+
+TEST_F(Contrast, the_states_of_each_face_differ_in_lightness) {
+    for (const Picture picture : {Picture::Stand, Picture::PicButton, Picture::SmlBut, Picture::OkB,
+                                  Picture::MinB, Picture::CloseB, Picture::Opt}) {
+        EXPECT_GE(distance(picture, kUp, kHover), kLeastStep) << pictureInfo(picture).name;
+        EXPECT_GE(distance(picture, kUp, kOn), kLeastStep) << pictureInfo(picture).name;
+        EXPECT_GE(distance(picture, kHover, kOn), kLeastStep) << pictureInfo(picture).name;
+    }
+}
+
+}  // namespace
+
+}  // namespace ombrelia

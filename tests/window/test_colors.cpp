@@ -1,0 +1,165 @@
+// The colour page by mouse: markers, boxes with the real colour dialog, sets that outlive the run.
+#include <algorithm>
+#include <gtest/gtest.h>
+
+#include "core/color_ramp.h"
+#include "core/objects.h"
+#include "panels/option_frames.h"
+#include "stories.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr int kColorFrame = 14;
+constexpr const char* kAwkwardName = "Dusk/[1] = 100% & more; {x}";
+
+// The editor with the colour page in sight and one height all over the map.
+bool openColorPage(ScreenDriver& driver) {
+    if (!openEditor(driver, button::kSizeSmall)) {
+        return false;
+    }
+    driver.inProgram([] {
+        HeightMap.fill(150);
+        ScrollToFrame(kColorFrame);
+    });
+    driver.moveTo(Form1, 5, 350);
+    return true;
+}
+
+void quit(ScreenDriver& driver) {
+    driver.moveTo(Form1, 5, 350);
+    driver.click(Form1.NTool(button::kClose));
+    ASSERT_TRUE(driver.waitForDialog("Exit?"));
+    driver.key("alt+y");
+    driver.waitUntilEnded();
+}
+
+int placeInList(const std::string& name) {
+    const auto& list = Form1.Combo1.List;
+    const auto at = std::find(list.begin(), list.end(), name);
+    return at == list.end() ? -1 : static_cast<int>(at - list.begin());
+}
+
+void chooseInList(ScreenDriver& driver, const std::string& name) {
+    int place = -1;
+    driver.inProgram([&] { place = placeInList(name); });
+    ASSERT_GE(place, 0) << name;
+    driver.click(Form1.Combo1);
+    driver.key("Home");
+    for (int i = 0; i < place; ++i) {
+        driver.key("Down");
+    }
+    driver.key("Return");
+    EXPECT_TRUE(driver.waitFor([&] { return Form1.Combo1.Caption == name; })) << name;
+}
+
+void recolor(ScreenDriver& driver, int box, const char* color) {
+    driver.click(Form1.Rng1(box));
+    ASSERT_TRUE(driver.waitForDialog("Select a Color"));
+    driver.key("alt+h");
+    driver.key("ctrl+a");
+    driver.type(color);
+    driver.key("Return");
+    EXPECT_TRUE(driver.waitFor([] { return Form1.Combo1.ListIndex == 0; }));
+}
+
+}  // namespace
+
+TEST(Colors, a_marker_drag_moves_the_boundary_and_the_gradient) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        chooseInList(driver, "Earth");
+        const QImage before = driver.pictureOf(Form1.PrefPicker);
+        double left = 0;
+        driver.inProgram([&] { left = Form1.Range(3).Left; });
+        driver.moveTo(Form1.Range(3), 4, 4);
+        driver.press();
+        driver.moveTo(Form1.Range(3), 10, 4);
+        driver.moveTo(Form1.Range(3), 10, 4);
+        driver.release();
+        driver.inProgram([&] {
+            const Image& marker = Form1.Range(3);
+            EXPECT_EQ(marker.Left, left + 12);
+            const double height = marker.Left - Form1.PrefPicker.Left + marker.Width / 2;
+            EXPECT_EQ(ColorRange(3, 2, 0), static_cast<int>(height - 1));
+            EXPECT_EQ(ColorRange(4, 1, 0), static_cast<int>(height));
+            EXPECT_EQ(Form1.Combo1.Caption, "Current Colors");
+        });
+        EXPECT_NE(driver.pictureOf(Form1.PrefPicker), before);
+    });
+}
+
+TEST(Colors, a_box_takes_the_colour_of_the_dialog_and_the_map_on_request) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        driver.inProgram([] { HeightMap.fill(ColorRange(4, 1, 0)); });
+        recolor(driver, 6, "#ff8800");
+        driver.inProgram([] {
+            EXPECT_EQ(ColorRange(4, 1, 1), 255);
+            EXPECT_EQ(ColorRange(4, 1, 2), 136);
+            EXPECT_EQ(ColorRange(4, 1, 3), 0);
+        });
+        EXPECT_EQ(driver.pictureOf(Form1.Rng1(6)).pixelColor(9, 5), QColor(255, 136, 0));
+        driver.click(Form1.NTool(button::kRedrawColors));
+        driver.moveTo(Form1, 5, 350);
+        EXPECT_EQ(driver.pictureOf(Form1.MapView).pixelColor(100, 100), QColor(255, 136, 0));
+    });
+}
+
+TEST(Colors, cancel_leaves_the_box_as_it_was) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        const QImage before = driver.pictureOf(Form1.Rng1(6));
+        driver.click(Form1.Rng1(6));
+        ASSERT_TRUE(driver.waitForDialog("Select a Color"));
+        driver.key("Escape");
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Combo1.Caption == "Current Colors"; }));
+        EXPECT_EQ(driver.pictureOf(Form1.Rng1(6)), before);
+    });
+}
+
+TEST(Colors, a_set_is_kept_by_name_until_it_is_deleted) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        recolor(driver, 0, "#123456");
+        pressWide(driver, button::kAddColor);
+        ASSERT_TRUE(driver.waitForDialog("Save Color Set"));
+        driver.type(kAwkwardName);
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([] { return placeInList(kAwkwardName) > 0; }));
+        chooseInList(driver, "Rainbow");
+        quit(driver);
+    });
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        driver.inProgram([] { EXPECT_NE(ColorRange(1, 1, 1), 0x12); });
+        chooseInList(driver, kAwkwardName);
+        driver.inProgram([] {
+            EXPECT_EQ(ColorRange(1, 1, 1), 0x12);
+            EXPECT_EQ(ColorRange(1, 1, 2), 0x34);
+            EXPECT_EQ(ColorRange(1, 1, 3), 0x56);
+        });
+        pressWide(driver, button::kDeleteColor);
+        EXPECT_TRUE(driver.waitFor([] { return placeInList(kAwkwardName) < 0; }));
+        quit(driver);
+    });
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        driver.inProgram([] { EXPECT_LT(placeInList(kAwkwardName), 0); });
+    });
+}
+
+TEST(Colors, the_sets_of_the_program_cannot_be_deleted) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        chooseInList(driver, "Valentine");
+        pressWide(driver, button::kDeleteColor);
+        ASSERT_TRUE(driver.waitForDialog("Cannot Delete!"));
+        EXPECT_EQ(driver.dialogText(), "This color setting cannot be deleted!");
+        driver.key("Return");
+        driver.inProgram([] { EXPECT_GT(placeInList("Valentine"), 0); });
+    });
+}
+
+}  // namespace ombrelia
