@@ -6,6 +6,7 @@ TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxt
     desktop-file-utils appstream man-db dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     weston xwayland qt6-wayland)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
+SCREEN_TESTS='^(window|wayland|accessibility)'  # what runs real windows, for ctest -E
 
 step() {
     printf '\n== %s\n' "$*"

@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# The checks of the memory: every test that needs no screen under the address and undefined-behaviour
+# sanitizers, and under valgrind the scenario that visits everything.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. tools/setup.sh
+install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" valgrind
+build sanitize yes
+step "Running the tests that need no screen under the sanitizers"
+ctest --preset sanitize -j2 -E "$SCREEN_TESTS"
+
+build release yes scenario
+step "Running a scenario under valgrind"
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+scenario=$PWD/tests/scenarios/work/one_day_visits_everything.txt
+tool=$PWD/build/scenario
+cd "$scratch"
+sed -n 's/^# given p.ppm //p' "$scenario" >p.ppm
+valgrind --quiet --error-exitcode=9 --leak-check=full "$tool" "$scenario"
+echo "valgrind finds nothing"
