@@ -10,6 +10,6 @@ step "Running the tests that need no screen, as clang makes them"
 ctest --preset clang -j2 -E "$SCREEN_TESTS"
 step "Looking for mistakes that no compiler sees"
 # The unit tests take twice as long as all the rest together; the compilers alone look at them.
-git ls-files 'src/*.cpp' 'tests/*.cpp' 'bench/*.cpp' | grep -Ev '^tests/(fuzz|unit)/' |
+git ls-files 'src/*.cpp' 'tests/*.cpp' 'benchmarks/*.cpp' | grep -Ev '^tests/(fuzz|unit)/' |
     xargs -P2 -n4 clang-tidy -p build-clang --quiet 2> >(grep -v 'warnings\? .*generated\.$' >&2)
 echo "clang-tidy finds nothing"
