@@ -11,17 +11,46 @@ corpus=build-fuzz/corpus
 mkdir -p "$corpus/bitmaps" "$corpus/pictures" build-fuzz/findings
 cp -r tests/fuzz/corpus/. "$corpus"
 build-fuzz/make_corpus "$corpus"
-step "Fuzzing the reader of bitmaps for $seconds s"
-build-fuzz/fuzz_bmp -max_total_time="$seconds" -max_len=4096 -verbosity=0 -print_final_stats=1 \
-    -artifact_prefix=build-fuzz/findings/ "$corpus/bitmaps"
-step "Fuzzing the loader of pictures for $seconds s"
+
+# A fuzzer's name, the longest input, and folders of inputs.
+fuzz() {
+    local name=$1 longest=$2
+    shift 2
+    "build-fuzz/fuzz_$name" -max_total_time="$seconds" -max_len="$longest" -verbosity=0 \
+        -print_final_stats=1 -artifact_prefix=build-fuzz/findings/ "$@"
+}
+
+bitmaps() {
+    fuzz bmp 4096 "$corpus/bitmaps"
+}
+
 # The libraries of others keep what they once took, and print what they refuse.
-ASAN_OPTIONS=detect_leaks=0 build-fuzz/fuzz_pictures -max_total_time="$seconds" -max_len=8192 -rss_limit_mb=3000 -verbosity=0 \
-    -print_final_stats=1 -close_fd_mask=2 -artifact_prefix=build-fuzz/findings/ \
-    "$corpus/pictures" "$corpus/bitmaps"
-step "Fuzzing the settings for $seconds s"
-build-fuzz/fuzz_settings -max_total_time="$seconds" -max_len=2048 -verbosity=0 -print_final_stats=1 \
-    -artifact_prefix=build-fuzz/findings/ "$corpus/settings"
-step "Fuzzing scenarios for $seconds s"
-build-fuzz/fuzz_scenario -max_total_time="$seconds" -max_len=1024 -verbosity=0 -print_final_stats=1 \
-    -artifact_prefix=build-fuzz/findings/ "$corpus/scenarios"
+pictures() {
+    ASAN_OPTIONS=detect_leaks=0 fuzz pictures 8192 -rss_limit_mb=3000 -close_fd_mask=2 \
+        "$corpus/pictures" "$corpus/seeds"
+}
+
+settings() {
+    fuzz settings 2048 "$corpus/settings"
+}
+
+scenarios() {
+    fuzz scenario 1024 "$corpus/scenarios"
+}
+
+# Two at once.
+both() {
+    local status=0
+    "$1" &
+    local other=$!
+    "$2" || status=1
+    wait "$other" || status=1
+    return "$status"
+}
+
+rm -rf "$corpus/seeds"
+cp -r "$corpus/bitmaps" "$corpus/seeds" # the other fuzzer adds to its folder meanwhile
+step "Fuzzing the reader of bitmaps and the loader of pictures for $seconds s"
+both bitmaps pictures
+step "Fuzzing the settings and the reader of scenarios for $seconds s"
+both settings scenarios
