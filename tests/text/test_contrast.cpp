@@ -86,7 +86,7 @@ class Contrast : public testing::Test {
                 part->Caption.clear();
             }
         }
-        const QImage ground = paint(window, scale);
+        QImage ground = paint(window, scale);
         for (std::size_t i = 0; i < captions.size(); ++i) {
             window.Controls[i]->Caption = captions[i];
         }
