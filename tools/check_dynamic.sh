@@ -13,7 +13,7 @@ build release yes scenario
 step "Running a scenario under valgrind"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-scenario=$PWD/tests/scenarios/work/one_day_visits_everything.txt
+scenario=$PWD/tests/scenarios/day/one_day_visits_everything.txt
 tool=$PWD/build/scenario
 cd "$scratch"
 sed -n 's/^# given p.ppm //p' "$scenario" >p.ppm
