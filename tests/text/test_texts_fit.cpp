@@ -110,6 +110,17 @@ TEST_F(Texts, every_label_of_every_window_fits) {
     }
 }
 
+TEST_F(Texts, every_part_of_a_page_lies_within_it) {
+    for (const Control* part : Form1.Controls) {
+        if (part->Parent != nullptr && part->Parent->Name == "OptFrame") {
+            EXPECT_LT(part->Top + part->Height, part->Parent->Height)
+                << part->Name << " " << part->Index;
+            EXPECT_LE(part->Left + part->Width, part->Parent->Width)
+                << part->Name << " " << part->Index;
+        }
+    }
+}
+
 TEST_F(Texts, each_slider_shows_its_widest_value) {
     for (int slider = 1; slider <= 14; ++slider) {
         SliderValues(slider).Value = SliderValues(slider).Max;
