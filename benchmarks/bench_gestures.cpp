@@ -42,7 +42,8 @@ void turnOn(int first, int last, int on) {
 double placesOfPath(int segments, int step) {
     double places = 0;
     for (int i = 1; i <= segments; ++i) {
-        places += pathSegment(i).steps / step + 1;
+        const int visited = pathSegment(i).steps / step + 1;
+        places += visited;
     }
     return places;
 }

@@ -177,7 +177,7 @@ std::vector<double> measureTurn(ScreenProbe& probe, EditorOnScreen& editor) {
     const auto placeOf = [&](int n) { return editor.placeIn(Form1.MapView, 30 + 4 * n, 100); };
     ScreenArea area = editor.areaOf(Form1.MapView);
     area = {area.x + area.width / 4, area.y + area.height / 4, area.width / 2, area.height / 2};
-    const auto times = measureDrag(
+    auto times = measureDrag(
         probe, placeOf(0), kRounds, [&](int n) { return placeOf(n + 1); },
         [&](int) { return area; });
     editor.command(button::k2DMode);
@@ -189,7 +189,9 @@ void beginCanyon(ScreenProbe& probe, EditorOnScreen& editor) {
     constexpr int kPoints = 400;
     for (int n = 0; n < kPoints; ++n) {
         const int side = n % 2 == 0 ? 40 : 110;
-        probe.moveTo(editor.placeIn(Form1.MapView, side + n / 4, 60 + n / 3));
+        const int across = side + n / 4;
+        const int down = 60 + n / 3;
+        probe.moveTo(editor.placeIn(Form1.MapView, across, down));
         ScreenProbe::rest(n == 0 ? 60 : 4);
         if (n == 0) {
             probe.press();
