@@ -85,9 +85,9 @@ std::string metresText(int height) {
     return std::to_string((height - kMetreOrigin) * kMetresPerStep) + "m";
 }
 
-void ColorLookup::update() {
+bool ColorLookup::update() {
     if (isFilled_ && table_ == ColorRange) {
-        return;
+        return false;
     }
     table_ = ColorRange;
     isFilled_ = true;
@@ -98,6 +98,7 @@ void ColorLookup::update() {
         takeRow(row);
     }
     isComplete_ = std::find(hasColor_.begin(), hasColor_.end(), false) == hasColor_.end();
+    return true;
 }
 
 void ColorLookup::takeRow(int row) {

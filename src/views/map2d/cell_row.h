@@ -1,6 +1,7 @@
 // The innermost loop of a refresh: one row of the map onto one row of the back buffer.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -22,12 +23,19 @@ bool isDirty(const CellRow& row);
 // Whether every height is in 0..255.
 bool isInRange(const CellRow& row);
 
-// Paints the cells that differ from their shadows and gives them those; heights in 0..255, a colour
-// for each in colors. Without a branch: which cells differ is often as good as chance.
-void paintCells(const CellRow& row, const Pixel* colors);
+// The colours of the heights 0..255: whole pixels, and the same taken apart.
+struct CellColors {
+    CellColors() = default;
 
-// The same in both ways in which it is compiled, for tests.
-void paintCellsNarrow(const CellRow& row, const Pixel* colors);
-void paintCellsWide(const CellRow& row, const Pixel* colors);
+    // Takes 256 pixels apart, which must stay where they are.
+    explicit CellColors(const Pixel* pixels);
+
+    const Pixel* whole = nullptr;
+    std::array<std::uint8_t, 256> blue{}, green{}, red{};
+};
+
+// Paints the cells that differ from their shadows and gives them those; heights in 0..255. Without
+// a branch: which cells differ is often as good as chance.
+void paintCells(const CellRow& row, const CellColors& colors);
 
 }  // namespace ombrelia

@@ -39,7 +39,9 @@ constexpr StepOption kStepOptions[] = {{button::kStep20, 20},
 class CellPainter {
   public:
     void paintDirtyCells(int y) {
-        colors_.update();
+        if (colors_.update()) {
+            cellColors_ = CellColors(colors_.data());
+        }
         Surface& buffer = Form1.Mapview2.Canvas;
         const auto cells = static_cast<std::size_t>(MapSize) + 1;
         const bool hasPixels = y < buffer.height();
@@ -51,7 +53,7 @@ class CellPainter {
         }
         if (colors_.isComplete() && isInRange(row)) {
             takeLastColor(row);
-            paintCells(row, colors_.data());
+            paintCells(row, cellColors_);
         } else {
             paintOneByOne(row);
         }
@@ -101,6 +103,7 @@ class CellPainter {
     }
 
     ColorLookup colors_;
+    CellColors cellColors_;
     Pixel last_ = pixelOf(rgb(0, 0, 0));
 };
 

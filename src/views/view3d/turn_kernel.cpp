@@ -189,15 +189,10 @@ float shortThirds(float along, float up) {
     return thirdsOf(along, up);
 }
 
-bool projectNarrow(const PointInput& points, const CameraState& camera,
-                   std::array<PixelPoint, kMost>& places) {
-    return projectAll(points, camera, places);
-}
-
 bool projectPoints(const PointInput& points, const CameraState& camera,
                    std::array<PixelPoint, kMost>& places) {
     return hasWideVectors() ? projectWide(points, camera, places)
-                            : projectNarrow(points, camera, places);
+                            : projectAll(points, camera, places);
 }
 
 }  // namespace ombrelia::kernel

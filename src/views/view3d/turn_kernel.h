@@ -40,10 +40,6 @@ float shortThirds(float along, float up);
 bool projectPoints(const PointInput& points, const CameraState& camera,
                    std::array<PixelPoint, kMost>& places);
 
-// The same with the vectors that every processor has; projectPoints takes wider ones if it can.
-bool projectNarrow(const PointInput& points, const CameraState& camera,
-                   std::array<PixelPoint, kMost>& places);
-
 }  // namespace kernel
 
 }  // namespace ombrelia

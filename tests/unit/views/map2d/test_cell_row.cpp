@@ -4,22 +4,12 @@
 #include <random>
 #include <vector>
 
-#include "platform/wide_vectors.h"
+#include "lesser_processor.h"
 #include "views/map2d/cell_row.h"
 
 namespace ombrelia {
 
 namespace {
-
-using Paint = void (*)(const CellRow&, const Pixel*);
-
-std::vector<Paint> waysToPaint() {
-    std::vector<Paint> ways = {paintCells, paintCellsNarrow};
-    if (hasWideVectors()) {
-        ways.push_back(paintCellsWide);
-    }
-    return ways;
-}
 
 // A row by chance; about every equalShare-th cell is clean.
 struct RowOfChance {
@@ -35,7 +25,7 @@ struct RowOfChance {
             pixel = static_cast<Pixel>(random());
         }
         for (Pixel& color : colors) {
-            color = static_cast<Pixel>(random());
+            color = 0xFF000000U | static_cast<Pixel>(random());
         }
     }
 
@@ -61,14 +51,15 @@ void paintOneByOne(RowOfChance& chance) {
 }  // namespace
 
 TEST(CellRow, each_way_paints_what_a_look_at_each_cell_paints) {
-    for (const Paint paint : waysToPaint()) {
+    for (const Vectors vectors : {Vectors::Narrow, Vectors::Wide, Vectors::ByteTables}) {
+        const LesserProcessor processor(vectors);
         for (std::uint32_t seed = 0; seed < 200; ++seed) {
             const std::size_t cells = 1 + seed * 7 % 258;
             const std::size_t columns = cells - seed % 2;
             RowOfChance expected(seed, cells, columns, 1 + seed % 5);
             RowOfChance actual = expected;
             paintOneByOne(expected);
-            paint(actual.row(), actual.colors.data());
+            paintCells(actual.row(), CellColors(actual.colors.data()));
             ASSERT_EQ(actual.pixels, expected.pixels) << "seed " << seed;
             ASSERT_EQ(actual.shadows, expected.shadows) << "seed " << seed;
         }
