@@ -21,8 +21,8 @@ namespace ombrelia {
 // What a processor's vectors can do; each holds what stands before it.
 enum class Vectors {
     Narrow,
-    Wide,       // 32 bytes
-    ByteTables  // 64 bytes, looked up one by one in a table that lies in vectors itself
+    Avx2,   // of 32 bytes
+    Avx512  // of 64 bytes, each byte of which can be looked up in a table of vectors
 };
 
 // What this processor can do.
@@ -30,10 +30,10 @@ inline Vectors ownVectors() {
 #if OMBRELIA_HAS_WIDE
     if (__builtin_cpu_supports("avx512vbmi") != 0 && __builtin_cpu_supports("avx512bw") != 0 &&
         __builtin_cpu_supports("avx512vl") != 0) {
-        return Vectors::ByteTables;
+        return Vectors::Avx512;
     }
     if (__builtin_cpu_supports("avx2") != 0) {
-        return Vectors::Wide;
+        return Vectors::Avx2;
     }
 #endif
     return Vectors::Narrow;
@@ -43,10 +43,10 @@ inline Vectors ownVectors() {
 inline Vectors usedVectors = ownVectors();
 
 inline bool hasWideVectors() {
-    return usedVectors >= Vectors::Wide;
+    return usedVectors >= Vectors::Avx2;
 }
 inline bool hasByteTables() {
-    return usedVectors >= Vectors::ByteTables;
+    return usedVectors >= Vectors::Avx512;
 }
 
 }  // namespace ombrelia

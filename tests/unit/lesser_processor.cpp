@@ -18,7 +18,7 @@ class VectorsOfRun : public testing::Environment {
             return;
         }
         ASSERT_TRUE(std::string(name) == "narrow" || std::string(name) == "wide") << name;
-        processor_.emplace(std::string(name) == "narrow" ? Vectors::Narrow : Vectors::Wide);
+        processor_.emplace(std::string(name) == "narrow" ? Vectors::Narrow : Vectors::Avx2);
     }
     void TearDown() override { processor_.reset(); }
 
@@ -35,7 +35,7 @@ TEST(Vectors, are_those_that_the_run_asks_for) {
     if (name == nullptr) {
         EXPECT_EQ(usedVectors, ownVectors());
     } else {
-        EXPECT_LE(usedVectors, std::string(name) == "narrow" ? Vectors::Narrow : Vectors::Wide);
+        EXPECT_LE(usedVectors, std::string(name) == "narrow" ? Vectors::Narrow : Vectors::Avx2);
     }
 }
 

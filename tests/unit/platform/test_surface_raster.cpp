@@ -200,6 +200,23 @@ TEST(SurfacePolygon, narrow_and_flat_shapes_agree_with_the_plain_one) {
     }
 }
 
+// Where single precision is worn out: the longest edges of the most columns, in full sight.
+TEST(SurfacePolygon, the_steepest_narrow_shapes_agree_with_the_plain_one) {
+    constexpr std::int32_t kFarthest = 8191;
+    Places places(9);
+    for (std::int32_t width = 2; width <= 64; ++width) {
+        const std::int32_t top = -kFarthest + places.below(40);
+        const std::int32_t bottom = kFarthest - places.below(40);
+        expectSamePolygon({{0, top}, {width, bottom}, {width, bottom - 9}, {places.below(9), top}},
+                          width, kFarthest, width);
+        expectSamePolygon({{0, bottom}, {width, top}, {width - 1, bottom}, {0, top}}, width,
+                          kFarthest, width);
+        if (testing::Test::HasFatalFailure()) {
+            return;
+        }
+    }
+}
+
 TEST(SurfaceLine, agrees_with_the_plain_one) {
     Places places(6);
     for (int round = 0; round < 40000; ++round) {

@@ -51,7 +51,7 @@ void paintOneByOne(RowOfChance& chance) {
 }  // namespace
 
 TEST(CellRow, each_way_paints_what_a_look_at_each_cell_paints) {
-    for (const Vectors vectors : {Vectors::Narrow, Vectors::Wide, Vectors::ByteTables}) {
+    for (const Vectors vectors : {Vectors::Narrow, Vectors::Avx2, Vectors::Avx512}) {
         const LesserProcessor processor(vectors);
         for (std::uint32_t seed = 0; seed < 200; ++seed) {
             const std::size_t cells = 1 + seed * 7 % 258;
