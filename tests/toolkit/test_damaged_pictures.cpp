@@ -74,6 +74,19 @@ TEST(DamagedPictures, a_tga_with_too_few_pixels_before_its_end_is_refused) {
     EXPECT_EQ(refusalOfFile(file), sentence("It is cut off before its end"));
 }
 
+// The toolkit would ask for 4 GB.
+TEST(DamagedPictures, lengths_beyond_the_end_of_an_icon_file_are_refused) {
+    const std::string file = fileOf(colorful(16, 16), "icns");
+    ASSERT_EQ(file.substr(8, 4), "TOC ");
+    constexpr std::size_t kInContents = 20;
+    constexpr std::size_t kInBlock = 28;
+    for (const std::size_t place : {kInContents, kInBlock}) {
+        std::string damaged = file;
+        damaged[place] = '\xFF';
+        EXPECT_EQ(refusalOfFile(damaged), sentence("It is cut off before its end")) << place;
+    }
+}
+
 TEST(DamagedPictures, flipped_bits_never_show_old_memory) {
     for (const char* kind : kKinds) {
         const std::string file = fileOf(pictureFor(kind), kind);

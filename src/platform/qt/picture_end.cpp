@@ -128,15 +128,48 @@ bool isTgaComplete(QIODevice& device) {
     return (header[2] & kCoded) != 0 || skip(device, header[0] + palette + pixels);
 }
 
+std::uint32_t numberOf(const std::array<std::uint8_t, 8>& block) {
+    return static_cast<std::uint32_t>(block[4]) << 24U |
+           static_cast<std::uint32_t>(block[5]) << 16U |
+           static_cast<std::uint32_t>(block[6]) << 8U | block[7];
+}
+
+// Each block's length lies within the file, in the table of contents as well: the toolkit asks for
+// as much memory as either says.
+bool isIcnsComplete(QIODevice& device) {
+    constexpr QByteArrayView kContents("TOC ");
+    constexpr qint64 kHeader = 8;  // name and length, header included, of the file and of a block
+    std::array<std::uint8_t, kHeader> block{};
+    if (!take(device, block)) {
+        return false;
+    }
+    while (take(device, block)) {
+        const qint64 length = numberOf(block);
+        const qint64 end = device.pos() - kHeader + length;
+        if (end > device.size()) {
+            return false;
+        }
+        if (QByteArrayView(block).first(4) == kContents) {
+            while (device.pos() + kHeader <= end && take(device, block)) {
+                if (numberOf(block) > device.size()) {
+                    return false;
+                }
+            }
+        }
+        if (end < device.pos() || !device.seek(end)) {
+            return true;  // for the reader to refuse
+        }
+    }
+    return true;
+}
+
 struct EndRow {
     const char* format;
     bool (*isComplete)(QIODevice& device);
 };
-constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete},
-                            {"jpg", isJpegComplete},
-                            {"gif", isGifComplete},
-                            {"tga", isTgaComplete},
-                            {"xbm", isXbmComplete}};
+constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete}, {"jpg", isJpegComplete},
+                            {"gif", isGifComplete},   {"icns", isIcnsComplete},
+                            {"tga", isTgaComplete},   {"xbm", isXbmComplete}};
 
 }  // namespace
 
