@@ -70,19 +70,29 @@ std::int64_t riseAt(const LineCourse& line, std::int64_t step) {
     return stepsAcross(line, step).whole;
 }
 
-// A pixel, and one more for each step, all of them on the picture. The distances are in pixels of
-// the image's memory.
-void drawThin(Pixel* at, const EvenSteps<std::int64_t>& steps, std::int64_t count,
-              std::int64_t alongStep, std::int64_t acrossStep, Pixel pixel) {
-    // Without a jump: which step carries over cannot be foretold.
-    const std::int64_t plainStep = alongStep + steps.wholeStep * acrossStep;
-    std::int64_t rest = steps.rest;
+// A line of one pixel that lies on the picture, in short numbers and without a division.
+void drawThinInside(Pixel* pixels, std::int32_t width, PixelPoint from, PixelPoint to,
+                    Pixel pixel) {
+    const std::int32_t dx = to.x - from.x;
+    const std::int32_t dy = to.y - from.y;
+    const std::int32_t columns = std::abs(dx);
+    const std::int32_t rows = std::abs(dy);
+    const std::int32_t stepX = dx < 0 ? -1 : 1;
+    const std::int32_t stepY = dy < 0 ? -width : width;
+    const bool isSteep = rows > columns;
+    const std::int32_t length = isSteep ? rows : columns;
+    const std::int32_t rise = 2 * (isSteep ? columns : rows);
+    const std::int32_t alongStep = isSteep ? stepY : stepX;
+    const std::int32_t acrossStep = isSteep ? stepX : stepY;
+    Pixel* at = pixels + static_cast<std::ptrdiff_t>(from.y) * width + from.x;
     *at = pixel;
-    for (std::int64_t n = 0; n < count; ++n) {
-        rest += steps.restStep - steps.divisor;
-        const std::int64_t isShort = rest >> 63;  // all bits, or none
-        rest += steps.divisor & isShort;
-        at += plainStep + (acrossStep & ~isShort);
+    std::int32_t rest = -length;  // of an even step, less a whole one
+    // Without a branch: which step carries over cannot be foretold.
+    for (std::int32_t n = 0; n < length; ++n) {
+        rest += rise;
+        const std::int32_t isShort = rest >> 31;  // all bits, or none
+        rest -= 2 * length & ~isShort;
+        at += alongStep + (acrossStep & ~isShort);
         *at = pixel;
     }
 }
@@ -95,6 +105,14 @@ void Surface::line(double u1, double v1, double u2, double v2, Color color) {
 }
 
 void Surface::linePixels(PixelPoint from, PixelPoint to, Color color) {
+    const auto isInside = [this](PixelPoint place) {
+        return place.x >= 0 && place.x < width_ && place.y >= 0 && place.y < height_;
+    };
+    if (DrawWidth == 1 && isInside(from) && isInside(to)) {
+        drawThinInside(pixels_.data(), width_, from, to, pixelOf(color));
+        changed();
+        return;
+    }
     const LineCourse line = courseOf(from, to);
     const StepRange range = stepsInside(line, line.isSteep ? height_ : width_);
     if (range.first > range.last) {
@@ -110,16 +128,6 @@ void Surface::linePixels(PixelPoint from, PixelPoint to, Color color) {
                                  : line.across + line.acrossSign * riseAt(line, range.last);
     const auto [low, high] = std::minmax(start, end);
     if (high + after < 0 || low - before >= side) {
-        return;
-    }
-    if (DrawWidth == 1 && low >= 0 && high < side) {
-        const std::int64_t row = width_;
-        const std::int64_t place = line.along + line.alongSign * range.first;
-        Pixel* at = pixels_.data() + (line.isSteep ? place * row + start : start * row + place);
-        const std::int64_t alongStep = line.alongSign * (line.isSteep ? row : 1);
-        const std::int64_t acrossStep = line.acrossSign * (line.isSteep ? 1 : row);
-        drawThin(at, steps, range.last - range.first, alongStep, acrossStep, pixelOf(color));
-        changed();
         return;
     }
     for (std::int64_t n = range.first; n <= range.last; ++n, steps.step()) {

@@ -39,7 +39,8 @@ int sideFor(int height) {
     return 0;
 }
 
-// Every sample of one circle gets the same height, so the order within it does not matter.
+// Every sample of one circle gets the same height, so neither the order within it matters nor how
+// often a cell comes.
 void placeRing(std::span<const std::int32_t> cells, double height, bool onlyRaises) {
     const std::int16_t rounded = roundToInt16(height);
     std::int16_t* heights = HeightMap.data();
@@ -53,7 +54,7 @@ void placeRing(std::span<const std::int32_t> cells, double height, bool onlyRais
 bool shapeTop(int x, int y, const MountainShape& shape, RingCells& ring) {
     const Directions directions = Directions::fromTable(0, 3, 361);
     for (int r = 1; r <= shape.topSize; ++r) {
-        placeRing(ring.at(x, y, r, directions), shape.height, shape.onlyRaises);
+        placeRing(ring.changesAt(x, y, r, directions), shape.height, shape.onlyRaises);
         ProgressDone = r;
         yieldToEvents();
         if (noteStop()) {
@@ -122,7 +123,7 @@ bool shapeFlank(int x, int y, const MountainShape& shape, RingCells& ring) {
     for (int r = shape.topSize; r <= shape.topSize + shape.side; ++r) {
         const double t = 90 + (r - shape.topSize) * (180.0 / shape.side);
         const double h = half * std::sin(t * kRadian) + half + SeaLevel;
-        placeRing(ring.at(x, y, r, directions.at(r)), h, shape.onlyRaises);
+        placeRing(ring.changesAt(x, y, r, directions.at(r)), h, shape.onlyRaises);
         if (h < 0) {
             return true;
         }

@@ -102,6 +102,21 @@ std::span<const std::int32_t> RingCells::find(double x, double y, double r,
     return {cells_.data(), count};
 }
 
+std::span<const std::int32_t> RingCells::changesAt(double x, double y, double r,
+                                                   const Directions& directions) {
+    static_cast<void>(find(x, y, r, directions, r));
+    constexpr std::int32_t kNone = -2;
+    std::int32_t before = kNone;
+    std::size_t kept = 0;
+    // Without a branch: most samples are left out, but which cannot be foretold.
+    for (const std::int32_t cell : cells_) {
+        cells_[kept] = cell;
+        kept += cell != before ? 1U : 0U;
+        before = cell;
+    }
+    return {cells_.data(), kept};
+}
+
 int checkedMapSide() {
     static_cast<void>(HeightMap(MapSize, MapSize));
     return MapSize;

@@ -51,6 +51,10 @@ class RingCells {
         return find(x, y, r, directions, r);
     }
 
+    // The same, but of samples that follow one another in one cell only the first.
+    std::span<const std::int32_t> changesAt(double x, double y, double r,
+                                            const Directions& directions);
+
     // The places (x, y) + offset, none of which is further than reach away on either axis.
     std::span<const std::int32_t> atOffsets(double x, double y, const Directions& offsets,
                                             double reach) {
