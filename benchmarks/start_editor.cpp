@@ -1,5 +1,5 @@
 // The editor from its start to its first painted window, then the end.
-#include <QCoreApplication>
+#include <cstdlib>
 
 #include "app/bindings.h"
 #include "core/desk/startup.h"
@@ -12,5 +12,5 @@ int main(int argc, char** argv) {
     return ombrelia::runProgram(argc, argv,
                                 {ombrelia::startEditor, ombrelia::repairAfterFailure,
                                  ombrelia::Form1.Width + ombrelia::HelpFrm.Width,
-                                 ombrelia::Form1.Height, 0, [] { QCoreApplication::exit(0); }});
+                                 ombrelia::Form1.Height, 0, [] { std::_Exit(0); }});
 }

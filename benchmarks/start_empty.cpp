@@ -1,6 +1,7 @@
 // An empty frameless window of the splash's size, from its start to its first painting.
 #include <QApplication>
 #include <QWidget>
+#include <cstdlib>
 
 namespace {
 
@@ -11,7 +12,7 @@ class EmptyWindow : public QWidget {
     }
 
   protected:
-    void paintEvent(QPaintEvent* /*event*/) override { QCoreApplication::exit(0); }
+    void paintEvent(QPaintEvent* /*event*/) override { std::_Exit(0); }
 };
 
 }  // namespace

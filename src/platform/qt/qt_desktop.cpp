@@ -245,6 +245,7 @@ void QtDesktop::shown(Window& window) {
         showDocked(*window.DockedTo);
         return;
     }
+    view.prepareGround();
     view.sync();
     view.syncTimers();
     if (view.isMinimized()) {
