@@ -38,6 +38,10 @@ chmod 700 "$scratch/runtime"
 export XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch/runtime
 export QT_QPA_PLATFORM=xcb QT_LOGGING_RULES="qt.qpa.*=false"
 [ "${MANAGER:-}" != none ] || { "$@"; exit; }
+# One desktop and no menu on its ground, whose entries end the manager or hide the windows.
+mkdir -p "$scratch/config/openbox"
+sed -e '/<context name="Root">/,/<\/context>/d' -e 's|<number>[0-9]*</number>|<number>1</number>|' \
+    /etc/xdg/openbox/rc.xml >"$scratch/config/openbox/rc.xml"
 openbox >"$scratch/openbox.log" 2>&1 &
 manager=$!
 for _ in $(seq 400); do

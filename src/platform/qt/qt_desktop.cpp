@@ -245,7 +245,6 @@ void QtDesktop::shown(Window& window) {
         showDocked(*window.DockedTo);
         return;
     }
-    view.prepareGround();
     view.sync();
     view.syncTimers();
     if (view.isMinimized()) {

@@ -95,11 +95,6 @@ QRect WindowView::logicalRect(const QRect& device) const {
         .toAlignedRect();
 }
 
-void WindowView::prepareGround() {
-    const QRect place = deviceRect(window_, scale_);
-    desktop_.skin().prepare(window_.Face, place.width(), place.height());
-}
-
 bool WindowView::sync() {
     if (const QString title = QString::fromStdString(window_.Caption); title != windowTitle()) {
         setWindowTitle(title);

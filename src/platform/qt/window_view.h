@@ -33,9 +33,6 @@ class WindowView : public QWidget {
     // A press and release in the middle of a control, without the mouse.
     void pressControl(Control& control);
 
-    // Has the window's own picture drawn while the screen makes room for the window.
-    void prepareGround();
-
     // Asks for a repaint of every part that differs from what was last painted; follows the
     // record's place where the window is docked. True if anything differed.
     bool sync();

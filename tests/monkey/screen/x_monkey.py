@@ -77,6 +77,10 @@ class Screen:
             self.test.XTestFakeKeyEvent(self.display, code, is_down, ctypes.c_ulong(0))
         self.flush()
 
+    def active_window(self):
+        done = subprocess.run(["xprop", "-root", "_NET_ACTIVE_WINDOW"], capture_output=True, text=True)
+        return done.stdout.strip() or done.stderr.strip()
+
     def let_go(self):
         for number in list(self.held):
             self.button(number, 0)
@@ -84,6 +88,7 @@ class Screen:
 
 class Look:
     def __init__(self, line):
+        self.told = line.strip().replace("\t", "|")
         busy, loaded, minimized, self.problems, self.dialog, *windows = line.rstrip("\n").split("\t")
         self.is_busy, self.is_loaded, self.is_minimized = busy == "1", loaded == "1", minimized == "1"
         self.windows = [[int(n) for n in w.split()[:4]] for w in windows]
@@ -209,8 +214,9 @@ def come_in_order(editor, screen):
         if look.dialog:
             screen.key("Escape")
         time.sleep(0.25)
-        look = editor.look()
-    raise Wrong(f"the desk stays out of order: {look.problems or look.dialog or 'busy'}")
+        look = editor.look("restore" if look.is_minimized else "look")
+    raise Wrong(f"the desk stays out of order: {look.problems or look.dialog or 'busy'}; "
+                f"{look.told}; the keyboard is at {screen.active_window()}")
 
 
 def play(path, folder, screen, user, until):
