@@ -1,7 +1,8 @@
 // The program as it is, watched: each line on standard input is answered by one line that tells
 // where its windows stand and whether the desk is in order. The line "restore" first brings
-// minimized windows back, as a panel of the desktop would. File dialogs cannot leave the current
-// folder, and change nothing in it but what is saved.
+// minimized windows back, and the keyboard to the dialog if a click on the screen's ground has
+// taken it from every window, as a panel of the desktop would. File dialogs cannot leave the
+// current folder, and change nothing in it but what is saved.
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -84,6 +85,10 @@ void restoreWindows() {
             widget->showNormal();
             widget->activateWindow();
         }
+    }
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog != nullptr && QApplication::activeWindow() == nullptr) {
+        dialog->activateWindow();
     }
 }
 

@@ -204,7 +204,8 @@ class User:
 
 
 def come_in_order(editor, screen):
-    """All is let go and every dialog left; then the desk is in order before long."""
+    """All is let go and every dialog left; then the desk is in order before long. As a user does who
+    finds that the keyboard is nowhere, the dialog is taken to hand first."""
     screen.let_go()
     end = time.monotonic() + PATIENCE
     look = editor.look()
@@ -214,7 +215,7 @@ def come_in_order(editor, screen):
         if look.dialog:
             screen.key("Escape")
         time.sleep(0.25)
-        look = editor.look("restore" if look.is_minimized else "look")
+        look = editor.look("restore")
     raise Wrong(f"the desk stays out of order: {look.problems or look.dialog or 'busy'}; "
                 f"{look.told}; the keyboard is at {screen.active_window()}")
 

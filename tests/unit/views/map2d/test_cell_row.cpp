@@ -13,8 +13,11 @@ namespace {
 
 // A row by chance; about every equalShare-th cell is clean.
 struct RowOfChance {
-    RowOfChance(std::uint32_t seed, std::size_t cells, std::size_t columns, unsigned equalShare)
-        : heights(cells), shadows(cells), pixels(columns) {
+    static constexpr std::size_t kBeyond = 70;  // pixels behind the picture's last column
+
+    RowOfChance(std::uint32_t seed, std::size_t cells, std::size_t pictureColumns,
+                unsigned equalShare)
+        : heights(cells), shadows(cells), columns(pictureColumns), pixels(columns + kBeyond) {
         std::mt19937 random(seed);
         for (std::size_t x = 0; x < cells; ++x) {
             heights[x] = static_cast<std::int16_t>(random() % 256);
@@ -30,18 +33,19 @@ struct RowOfChance {
     }
 
     CellRow row() {
-        return {heights.data(), shadows.data(), pixels.data(), pixels.size(), heights.size()};
+        return {heights.data(), shadows.data(), pixels.data(), columns, heights.size()};
     }
 
     std::vector<std::int16_t> heights;
     std::vector<std::int16_t> shadows;
+    std::size_t columns;
     std::vector<Pixel> pixels;
     std::array<Pixel, 256> colors{};
 };
 
 void paintOneByOne(RowOfChance& chance) {
     for (std::size_t x = 0; x < chance.heights.size(); ++x) {
-        if (chance.shadows[x] != chance.heights[x] && x < chance.pixels.size()) {
+        if (chance.shadows[x] != chance.heights[x] && x < chance.columns) {
             chance.pixels[x] = chance.colors[static_cast<std::size_t>(chance.heights[x])];
         }
         chance.shadows[x] = chance.heights[x];
