@@ -1,7 +1,5 @@
 #include "platform/narrow_polygon.h"
 
-#include <algorithm>
-
 #include "platform/wide_vectors.h"
 
 #if OMBRELIA_HAS_WIDE
@@ -59,12 +57,13 @@ class FourSteepEdges {
         growth_ = _mm_add_ps(fall, fall);
         const __m128 twice = _mm_add_ps(columns_, columns_);
         // An edge without columns passes through none; its quotients must only be finite.
-        reciprocal_ = _mm_div_ps(kOne, _mm_max_ps(twice, kOne));
-        const __m128 lift = _mm_sub_ps(_mm_setzero_ps(), _mm_add_ps(_mm_mul_ps(twice, fall), kOne));
-        numerator_ =
-            _mm_add_ps(_mm_add_ps(_mm_mul_ps(_mm_add_ps(_mm_add_ps(column_, column_), kOne), fall),
-                                  _mm_add_ps(columns_, _mm_set1_ps(0.5F))),
-                       _mm_and_ps(lift, _mm_cmplt_ps(fall, _mm_setzero_ps())));
+        reciprocal_ = _mm_div_ps(ones(), _mm_max_ps(twice, ones()));
+        const __m128 lift =
+            _mm_sub_ps(_mm_setzero_ps(), _mm_add_ps(_mm_mul_ps(twice, fall), ones()));
+        numerator_ = _mm_add_ps(
+            _mm_add_ps(_mm_mul_ps(_mm_add_ps(_mm_add_ps(column_, column_), ones()), fall),
+                       _mm_add_ps(columns_, _mm_set1_ps(0.5F))),
+            _mm_and_ps(lift, _mm_cmplt_ps(fall, _mm_setzero_ps())));
     }
 
     // Finds which edges pass through the present column, and their rows.
@@ -95,7 +94,7 @@ class FourSteepEdges {
     }
 
     void step() {
-        column_ = _mm_add_ps(column_, kOne);
+        column_ = _mm_add_ps(column_, ones());
         numerator_ = _mm_add_ps(numerator_, growth_);
     }
 
@@ -103,10 +102,9 @@ class FourSteepEdges {
     static __m128i load(const PixelPoint* two) {
         return _mm_loadu_si128(reinterpret_cast<const __m128i*>(two));
     }
+    static __m128 ones() { return _mm_set1_ps(1); }
     static __m128 numbers(__m128 wholes) { return _mm_cvtepi32_ps(_mm_castps_si128(wholes)); }
     static __m128 next(__m128 four) { return _mm_shuffle_ps(four, four, _MM_SHUFFLE(0, 3, 2, 1)); }
-
-    const __m128 kOne = _mm_set1_ps(1);
 
     __m128 columns_, column_, upper_, growth_, numerator_, reciprocal_;
     __m128 rows_, isHere_;

@@ -1,6 +1,7 @@
 // Polygons of few columns, filled downwards: almost all cells of a landscape in perspective.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -44,9 +44,9 @@ OMBRELIA_WIDE void paintWide(const CellRow& row, const Pixel* colors) {
 
 constexpr std::size_t kBlock = 64;  // cells whose colours are looked up at once
 
-// Which byte of the low (0..63) and high halves of 64 heights goes where, so that four
-// interleavings of the colours' bytes within lanes of 16 give the pixels in their order: lane n of
-// vector q has the pixels 16q + 4n ... 16q + 4n + 3.
+// Where the heights of a block are taken from, low byte of two, so that their colours' bytes,
+// interleaved within lanes of 16, are pixels in order: lane n of vector q holds those from
+// 16q + 4n on.
 constexpr std::array<std::uint8_t, kBlock> interleavedOrder() {
     std::array<std::uint8_t, kBlock> order{};
     for (std::size_t n = 0; n < kBlock; ++n) {
@@ -77,6 +77,7 @@ class ByteTable {
     __m512i first_, second_, third_, fourth_;
 };
 
+// Looks the three colour components of 64 heights up and puts them together.
 class TablePainter {
   public:
     OMBRELIA_BYTE_TABLES explicit TablePainter(const CellColors& colors)
