@@ -127,6 +127,14 @@ TEST_F(UpdateMap, heights_out_of_range_are_cut_back_in_map_and_shadow) {
     EXPECT_EQ(HeightMap(70, 1), 300);
 }
 
+TEST_F(UpdateMap, the_heights_next_to_the_range_are_cut_back_too) {
+    HeightMap(1, 1) = 256;
+    HeightMap(2, 1) = -1;
+    UpdateMapView(1);
+    EXPECT_EQ(HeightMap(1, 1), 255);
+    EXPECT_EQ(HeightMap(2, 1), 0);
+}
+
 TEST_F(UpdateMap, a_height_without_a_colour_takes_that_of_the_cell_painted_before) {
     for (const int component : {0, 1, 2, 3}) {
         ColorRange(3, 1, component) = 50;
