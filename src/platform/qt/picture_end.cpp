@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -128,10 +129,9 @@ bool isTgaComplete(QIODevice& device) {
     return (header[2] & kCoded) != 0 || skip(device, header[0] + palette + pixels);
 }
 
-std::uint32_t numberOf(const std::array<std::uint8_t, 8>& block) {
-    return static_cast<std::uint32_t>(block[4]) << 24U |
-           static_cast<std::uint32_t>(block[5]) << 16U |
-           static_cast<std::uint32_t>(block[6]) << 8U | block[7];
+// The second half of a block's header.
+qint64 lengthOf(const std::array<std::uint8_t, 8>& header) {
+    return qFromBigEndian<quint32>(&header[4]);
 }
 
 // Each block's length lies within the file, in the table of contents as well: the toolkit asks for
@@ -144,14 +144,14 @@ bool isIcnsComplete(QIODevice& device) {
         return false;
     }
     while (take(device, block)) {
-        const qint64 length = numberOf(block);
+        const qint64 length = lengthOf(block);
         const qint64 end = device.pos() - kHeader + length;
         if (end > device.size()) {
             return false;
         }
         if (QByteArrayView(block).first(4) == kContents) {
             while (device.pos() + kHeader <= end && take(device, block)) {
-                if (numberOf(block) > device.size()) {
+                if (lengthOf(block) > device.size()) {
                     return false;
                 }
             }
