@@ -20,6 +20,7 @@
 #include "panels/help_box.h"
 #include "panels/hints.h"
 #include "platform/dispatch.h"
+#include "platform/pointer.h"
 #include "terrain/fractal/fractal_state.h"
 
 namespace ombrelia {
@@ -72,8 +73,6 @@ const Binding kBindings[] = {
     {&Form1, "LTool", Event::MouseDown, NTool_MouseDown},
     {&Form1, "LTool", Event::MouseMove, NTool_MouseMove},
     {&Form1, "LTool", Event::MouseUp, NTool_MouseUp},
-    {&Form1, "TwoFrame", Event::MouseMove, Ground_MouseMove},
-    {&Form1, "GroupText", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "Label1", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "Label4", Event::MouseMove, QuietPart_MouseMove},
     {&Form1, "ZoomView", Event::MouseMove, ZoomView_MouseMove},
@@ -221,8 +220,11 @@ void resetProcess() {
         window->Loaded = false;
         window->Visible = false;
         window->Minimized = false;
+        window->PointerX = -1;
+        window->PointerY = -1;
     }
     resetDispatch();
+    resetPointer();
     bindEvents();
 }
 

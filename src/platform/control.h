@@ -85,7 +85,7 @@ struct PictureFace {
 
 // What a part is to assistive technology. Default: a label is a text, a list a list, a picture box
 // with an accessible name a picture, an image with one a button; everything else is ignored.
-enum class AccessRole { Default, Ignored, Button, CheckBox, RadioButton, Slider };
+enum class AccessRole { Default, Button, CheckBox, RadioButton, Slider };
 
 // Fields that every part has.
 struct Control {
@@ -106,6 +106,10 @@ struct Control {
     AccessRole Role = AccessRole::Default;
     PictureFace Face;  // stretched over the control
 
+    // The button face that this text belongs to: to a click and to assistive technology they are
+    // one part, which the face stands for. Null: none.
+    Control* LiesOn = nullptr;
+
     std::array<Handler, static_cast<std::size_t>(Event::Count)> On{};
 
     Handler handlerOf(Event event) const { return On[static_cast<std::size_t>(event)]; }
@@ -116,8 +120,6 @@ struct Control {
 
 struct Image : Control {
     Image() : Control(ControlKind::Image) {}
-    // The mouse is told in whole units, as at scale 1: for a part whose place is a whole number.
-    bool InWholeUnits = false;
 };
 
 enum class TextAlign { Left, Center, Right };

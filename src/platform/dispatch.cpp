@@ -1,5 +1,7 @@
 #include "platform/dispatch.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -108,18 +110,34 @@ void deliver(Control& control, Event event, EventArgs args) {
     runHandler([&] { raise(control, event, args); });
 }
 
+Control& hearerOf(Control& part) {
+    constexpr Event kPointerEvents[] = {Event::MouseDown, Event::MouseMove, Event::MouseUp,
+                                        Event::Click,     Event::DblClick,  Event::DragOver,
+                                        Event::DragDrop};
+    const bool hears =
+        std::any_of(std::begin(kPointerEvents), std::end(kPointerEvents),
+                    [&part](Event event) { return part.handlerOf(event) != nullptr; });
+    return hears ? part : *part.Owner;
+}
+
 void deliverMouse(Control& control, Event event, MouseButton button, double x, double y) {
-    Window& window = *control.Owner;
     const Point corner = cornerInWindow(control);
-    window.PointerX = corner.x + x;
-    window.PointerY = corner.y + y;
+    deliverMouse(control, event, button, {x, y}, {corner.x + x, corner.y + y});
+}
+
+void deliverMouse(Control& control, Event event, MouseButton button, const Point& inControl,
+                  const Point& inWindow) {
+    control.Owner->PointerX = inWindow.x;
+    control.Owner->PointerY = inWindow.y;
     if (!isEnabled(control)) {
         return;
     }
+    Control& hearer = hearerOf(control);
+    const Point& place = &hearer == &control ? inControl : inWindow;
     EventArgs args;
     args.Button = button;
-    placeIn(control, x, y, args);
-    deliver(control, event, args);
+    placeIn(hearer, place.x, place.y, args);
+    deliver(hearer, event, args);
 }
 
 void deliverClose(Window& window) {

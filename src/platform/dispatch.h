@@ -11,6 +11,10 @@ namespace ombrelia {
 // Twips to a pixel, on either axis.
 inline constexpr int kTwipsPerPixel = 15;
 
+struct Point {
+    double x, y;
+};
+
 // Calls the control's handler of this event, if it has one, from inside another handler: a failure
 // passes through to the caller.
 void raise(Control& control, Event event);
@@ -23,9 +27,18 @@ void runHandler(const std::function<void()>& work);
 // Raises an event from outside, through runHandler.
 void deliver(Control& control, Event event, EventArgs args = {});
 
+// Who hears what the pointer does on a part: the part itself, or its window where it has no handler
+// of any event of the pointer, since it is the window's background then.
+Control& hearerOf(Control& part);
+
 // A mouse event at (x, y) in pixels from the inner left top corner of the control. A disabled
 // control, or one inside a disabled one, gets nothing.
 void deliverMouse(Control& control, Event event, MouseButton button, double x, double y);
+
+// The same for a back end that knows the pointer's place in the window, client pixels, better than
+// the part is told.
+void deliverMouse(Control& control, Event event, MouseButton button, const Point& inControl,
+                  const Point& inWindow);
 
 // The user closes the window: its Close handler runs, or it is unloaded; now or when the running
 // handler has returned. The latter asks the running operation to stop, unless the window stands
@@ -66,10 +79,6 @@ bool isEnabled(const Control& control);
 
 // The control, and all that contains it, is visible.
 bool isShown(const Control& control);
-
-struct Point {
-    double x, y;
-};
 
 // Inner left top corner of the control, in client pixels of its window.
 Point cornerInWindow(const Control& control);

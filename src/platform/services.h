@@ -13,6 +13,7 @@ namespace ombrelia {
 
 class Surface;
 struct Control;
+struct ListBox;
 struct Window;
 
 // Styles of a message box, as one number: buttons + icon + default button.
@@ -124,9 +125,12 @@ class Desktop {
     virtual void yield() = 0;
     // Lets the user move the window by the press that is being handled.
     virtual void beginWindowMove(Window& window) = 0;
-    // The press that is being handled begins a drag of the control: what lies under the pointer
-    // gets DragOver at each move and DragDrop at the release, in place of the control's own events.
+    // Shows the control's picture at the pointer until the drag has ended.
     virtual void beginDrag(Control& source) = 0;
+    // The drag has ended, by a drop or without one.
+    virtual void endDrag() {}
+    // A press opened the list: lets the user choose an entry, which raises its Click.
+    virtual void openList(ListBox& list) { static_cast<void>(list); }
     // Caption of this program's active window; empty if another program's is active.
     virtual std::string activeWindowCaption() = 0;
     virtual DisplayColors displayColors() { return {}; }

@@ -1,6 +1,7 @@
 #include "platform/window_life.h"
 
 #include "platform/dispatch.h"
+#include "platform/pointer.h"
 #include "platform/services.h"
 
 namespace ombrelia {
@@ -34,6 +35,7 @@ void hideWindow(Window& window) {
         return;
     }
     window.Visible = false;
+    forgetPressIn(window);
     services().desktop->hidden(window);
 }
 
@@ -44,6 +46,7 @@ void unloadWindow(Window& window) {
     raise(window, Event::Unload);
     window.Loaded = false;
     window.Visible = false;
+    forgetPressIn(window);
     services().desktop->unloaded(window);
 }
 

@@ -9,7 +9,7 @@
 #include "panels/cursors_sounds.h"
 #include "panels/hints.h"
 #include "platform/dispatch.h"
-#include "platform/services.h"
+#include "platform/pointer.h"
 
 namespace ombrelia {
 
@@ -79,7 +79,7 @@ void clearHover() {
 
 void NTool_MouseDown(EventArgs& args) {
     if (args.Index == button::kVolcano + kOverlayOffset && EggArmed == 1) {
-        services().desktop->beginDrag(*args.Source);
+        beginDrag(*args.Source);
     }
     if (args.Button != MouseButton::Left) {
         return;

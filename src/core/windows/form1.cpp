@@ -81,7 +81,7 @@ void designButton(Form1Window& form, int number, Control& container, double left
             designLabel(form.LTool.make(number), "LTool", container,
                         {left + 9, top + 8, face.Width - 18, face.Height - 16}, start.name,
                         {.align = TextAlign::Center, .bold = true});
-            form.LTool(number).Role = AccessRole::Ignored;  // the face says it
+            form.LTool(number).LiesOn = &face;
             break;
         case kind::kPicture:
             designImage(form.NTool.make(number + kOverlayOffset), "NTool", container, left + 9,

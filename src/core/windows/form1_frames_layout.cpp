@@ -146,7 +146,7 @@ void designChecks(Form1Window& form) {
         designButton(form, row.number, frame, row.left, row.top);
         designLabel(form.LTool.make(row.number), "LTool", frame,
                     {row.left + 21, row.top, row.textWidth, 16}, buttonStart(row.number)->name, {});
-        form.LTool(row.number).Role = AccessRole::Ignored;  // the mark says it
+        form.LTool(row.number).LiesOn = &form.NTool(row.number);
     }
 }
 
@@ -167,7 +167,6 @@ void designColorPage(Form1Window& form) {
     for (int i = 1; i <= 5; ++i) {
         Image& marker = form.Range.make(i);
         designImage(marker, "Range", frame, 12, 51, Picture::Range);
-        marker.InWholeUnits = true;  // a boundary at half a height would leave a height without row
     }
     for (int row = 0; row < 6; ++row) {
         const double left = 12 + 43.0 * row;

@@ -53,7 +53,7 @@ void designButtons() {
         designLabel(HelpBox.LTool.make(i), "LTool", HelpBox,
                     {19, top + 8, face.Width - 18, face.Height - 16}, text,
                     {.align = TextAlign::Center, .bold = true});
-        HelpBox.LTool(i).Role = AccessRole::Ignored;  // the face says it
+        HelpBox.LTool(i).LiesOn = &face;
     }
     Image& close = HelpBox.NTool.make(button::kHelpClose);
     designImage(close, "NTool", HelpBox, kWidth - 23, 2, Picture::CloseB);

@@ -42,7 +42,7 @@ void designSizeButtons() {
         designLabel(SizeSelect.LTool.make(row.number), "LTool", SizeSelect.Picture1,
                     {row.left + 9, row.top + 8, face.Width - 18, face.Height - 16}, row.caption,
                     {.align = TextAlign::Center, .bold = true});
-        SizeSelect.LTool(row.number).Role = AccessRole::Ignored;  // the face says it
+        SizeSelect.LTool(row.number).LiesOn = &face;
         designLabel(SizeSelect.SizeLabel.make(row.number), "SizeLabel", SizeSelect.Picture1,
                     {row.left, row.top + 34, face.Width, 13}, row.points,
                     {.size = 10, .color = skin::kTextQuiet, .align = TextAlign::Center});

@@ -161,6 +161,9 @@ void HeadlessPlatform::draw(std::span<float> draws) {
 
 void HeadlessPlatform::shown(Window& window) {
     log("show " + window.Name);
+    if (OnShown) {
+        OnShown(window);
+    }
 }
 
 void HeadlessPlatform::hidden(Window& window) {

@@ -61,6 +61,9 @@ class HeadlessPlatform : public Dialogs,
     std::function<void()> OnYield;
     long Yields = 0;
 
+    // Called when a window is shown.
+    std::function<void(Window&)> OnShown;
+
     // Called at each refresh of a control that is asked for.
     std::function<void(Control&)> OnRefresh;
 

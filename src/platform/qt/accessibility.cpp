@@ -5,6 +5,7 @@
 #include <map>
 
 #include "platform/dispatch.h"
+#include "platform/pointer.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_painter.h"
 #include "platform/qt/window_view.h"
@@ -16,6 +17,9 @@ namespace {
 constexpr int kFaceOn = 2;  // of a button: pressed, or on
 
 QAccessible::Role roleOf(const Control& control) {
+    if (control.LiesOn != nullptr) {
+        return QAccessible::NoRole;  // the face says it
+    }
     switch (control.Role) {
         case AccessRole::Button:
             return QAccessible::Button;
@@ -25,8 +29,6 @@ QAccessible::Role roleOf(const Control& control) {
             return QAccessible::RadioButton;
         case AccessRole::Slider:
             return QAccessible::Slider;
-        case AccessRole::Ignored:
-            return QAccessible::NoRole;
         case AccessRole::Default:
             break;
     }
@@ -137,7 +139,7 @@ class ControlAccess : public QAccessibleInterface,
     QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
     void doAction(const QString& action) override {
         if (action == pressAction() && isValid()) {
-            view_->pressControl(control_);
+            view_->desktop().input([this] { pressWithoutPointer(control_); });
         }
     }
 
@@ -151,7 +153,7 @@ class ControlAccess : public QAccessibleInterface,
         }
         EventArgs args;
         args.Value = value.toDouble();
-        view_->desktop().run([&] { deliver(control_, Event::SetValue, args); });
+        view_->desktop().input([this, args] { deliver(control_, Event::SetValue, args); });
     }
 
   private:

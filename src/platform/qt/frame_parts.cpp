@@ -75,7 +75,7 @@ void FrameParts::makeMenus() {
         } else {
             QAction* action = menus[item->Parent]->addAction(caption);
             QObject::connect(action, &QAction::triggered, &host_, [this, item] {
-                desktop_.run([item] { deliver(*item, Event::Click); });
+                desktop_.input([item] { deliver(*item, Event::Click); });
             });
             actions_[item] = action;
         }
@@ -101,7 +101,7 @@ void FrameParts::makeBar(ScrollBar& record) {
 void FrameParts::moveBar(ScrollBar& record, const QScrollBar& bar) {
     record.Value = bar.value();
     if (bar.isSliderDown()) {
-        desktop_.run([&record] { deliver(record, Event::Scroll); });
+        desktop_.input([&record] { deliver(record, Event::Scroll); });
     } else {
         settleBar(record, bar);
     }
@@ -109,7 +109,7 @@ void FrameParts::moveBar(ScrollBar& record, const QScrollBar& bar) {
 
 void FrameParts::settleBar(ScrollBar& record, const QScrollBar& bar) {
     if (std::exchange(bars_[&record].settled, bar.value()) != bar.value()) {
-        desktop_.run([&record] { deliver(record, Event::Change); });
+        desktop_.input([&record] { deliver(record, Event::Change); });
     }
 }
 

@@ -14,6 +14,7 @@
 #include "platform/dispatch.h"
 #include "platform/failure.h"
 #include "platform/qt/window_view.h"
+#include "platform/timer_rest.h"
 
 #if defined(__x86_64__)
 #include <immintrin.h>
@@ -28,8 +29,6 @@ constexpr qint64 kSyncMilliseconds = 8;
 
 // How long a window that says "please wait" is waited for before the work begins.
 constexpr int kFirstPictureMilliseconds = 60;
-
-constexpr qint64 kFrameMilliseconds = 16;
 
 // What the system's frame adds to a window's height, at most; logical pixels.
 constexpr double kFrameHeight = 40;
@@ -55,6 +54,10 @@ void settleRegisters() {}
 
 QtDesktop::QtDesktop() {
     sinceSync_.start();
+    keptInput_.OnReleased = [this] {
+        QMetaObject::invokeMethod(
+            qApp, [this] { keptInput_.replay(); }, Qt::QueuedConnection);
+    };
 }
 
 QtDesktop::~QtDesktop() {
@@ -143,7 +146,7 @@ WindowView& QtDesktop::viewOf(Window& window) {
 // False when the process is to end.
 bool QtDesktop::runOrEnd(const std::function<void()>& event) {
     try {
-        runHandler(event);
+        event();
     } catch (const ProcessEnd&) {
         handled();
         QCoreApplication::exit(0);
@@ -160,6 +163,10 @@ void QtDesktop::run(const std::function<void()>& event) {
         handled();
         settleRegisters();
     }
+}
+
+void QtDesktop::input(const std::function<void()>& event) {
+    keptInput_.hand([this, event] { run(event); });
 }
 
 // What a run leaves to the tick after it, as the light that turns green, shall not wait for the
@@ -317,7 +324,7 @@ void QtDesktop::sleep(int milliseconds) {
 }
 
 void QtDesktop::waitUntil(const std::function<bool()>& isDone, qint64 milliseconds) {
-    const InputKeeper::Hold hold(inputKeeper_);
+    const KeptInput::Hold hold(keptInput_);
     QElapsedTimer waited;
     waited.start();
     while (!isDone() && waited.elapsed() < milliseconds) {
@@ -348,7 +355,17 @@ void QtDesktop::beginWindowMove(Window& window) {
 }
 
 void QtDesktop::beginDrag(Control& source) {
-    viewOf(*source.Owner).beginDrag(source);
+    viewOf(*source.Owner).showDragged(source);
+}
+
+void QtDesktop::endDrag() {
+    for (const auto& [window, view] : views_) {
+        view->unsetCursor();
+    }
+}
+
+void QtDesktop::openList(ListBox& list) {
+    viewOf(*list.Owner).openList(list);
 }
 
 std::string QtDesktop::activeWindowCaption() {

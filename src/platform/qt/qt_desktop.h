@@ -6,7 +6,7 @@
 #include <functional>
 #include <map>
 
-#include "platform/qt/input_keeper.h"
+#include "platform/kept_input.h"
 #include "platform/qt/skin.h"
 #include "platform/services.h"
 #include "platform/yield_clock.h"
@@ -44,9 +44,12 @@ class QtDesktop : public Desktop {
     // Width in units of what docks to the window's right edge.
     double dockedWidth(const Window& window) const;
 
-    // Runs an event of the logic, then shows what it changed. Ends the process where that was
+    // Runs the delivery of an event, then shows what it changed. Ends the process where that was
     // asked.
     void run(const std::function<void()>& event);
+
+    // The same for what the user does by mouse or keyboard, which waits while a handler waits.
+    void input(const std::function<void()>& event);
 
     // The same for a tick of a timer, which wakes no resting one; true if it changed anything that
     // is seen.
@@ -56,7 +59,7 @@ class QtDesktop : public Desktop {
     void wakeTimers();
 
     // Whether a handler waits in a refresh or sleep, during which no timer fires.
-    bool isWaiting() const { return inputKeeper_.isHolding(); }
+    bool isWaiting() const { return keptInput_.isHolding(); }
 
     // A window was painted.
     void painted(Window& window);
@@ -80,6 +83,8 @@ class QtDesktop : public Desktop {
     void yield() override;
     void beginWindowMove(Window& window) override;
     void beginDrag(Control& source) override;
+    void endDrag() override;
+    void openList(ListBox& list) override;
     std::string activeWindowCaption() override;
     void openWebPage(const std::string& address) override;
     void end() override;
@@ -103,7 +108,7 @@ class QtDesktop : public Desktop {
     QElapsedTimer sinceSync_;        // of a yield
     bool hasHandledEvents_ = false;  // in a yield of the running handler
     QElapsedTimer sinceRefresh_;
-    InputKeeper inputKeeper_;
+    KeptInput keptInput_;
     int yieldMilliseconds_ = 0;
 };
 

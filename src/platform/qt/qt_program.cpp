@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <cstdio>
 
+#include "platform/dispatch.h"
 #include "platform/generator_random.h"
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canberra_sound.h"
@@ -58,7 +59,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     desktop.setYieldTime(parts.yieldMilliseconds);
     desktop.chooseScale(parts.widthUnits, parts.heightUnits);
     desktop.OnHandled = [&settings] { settings.save(); };
-    desktop.run(parts.start);
+    desktop.run([&parts] { runHandler(parts.start); });
     return QApplication::exec();
 }
 

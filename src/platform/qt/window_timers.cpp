@@ -1,21 +1,11 @@
 // The timers of a window on the real screen.
-#include <algorithm>
+#include <QTimerEvent>
 
 #include "platform/dispatch.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_view.h"
 
 namespace ombrelia {
-
-namespace {
-
-// A timer of the logic fires at most once in a display frame.
-constexpr int kFrameMilliseconds = 16;
-
-// Ticks without any change after which a timer of every frame rests.
-constexpr int kQuietTicks = 4;
-
-}  // namespace
 
 void WindowView::syncTimers() {
     for (Control* control : window_.Controls) {
@@ -24,12 +14,11 @@ void WindowView::syncTimers() {
         }
         auto* timer = static_cast<Timer*>(control);
         SystemTimer& system = timers_[timer];
-        system.quietTicks = 0;
-        const bool isWanted = window_.Loaded && timer->Enabled && timer->Interval > 0;
-        if (isWanted && !system.basic.isActive()) {
-            system.basic.start(std::max(kFrameMilliseconds, timer->Interval), this);
-        } else if (!isWanted) {
+        system.rest.wake();
+        if (!isWanted(*timer)) {
             system.basic.stop();
+        } else if (!system.basic.isActive()) {
+            system.basic.start(periodOf(*timer), this);
         }
     }
 }
@@ -52,12 +41,9 @@ void WindowView::tick(Timer& timer, SystemTimer& system) {
     if (self.isNull()) {
         return;
     }
-    if (timer.Interval >= kFrameMilliseconds) {
+    if (!isOfEveryFrame(timer)) {
         syncTimers();  // the tick may have switched its own timer off or on again
-        return;
-    }
-    system.quietTicks = isChanged ? 0 : system.quietTicks + 1;
-    if (system.quietTicks >= kQuietTicks && !isHandling()) {
+    } else if (system.rest.mayRestAfter(isChanged, isHandling())) {
         system.basic.stop();
     }
 }
@@ -69,9 +55,9 @@ void WindowView::tickAtOnce() {
             continue;
         }
         auto& timer = static_cast<Timer&>(*control);
-        if (timer.Enabled && timer.Interval > 0 && timer.Interval < kFrameMilliseconds) {
+        if (isWanted(timer) && isOfEveryFrame(timer)) {
             SystemTimer& system = timers_[&timer];
-            system.basic.start(kFrameMilliseconds, this);
+            system.basic.start(periodOf(timer), this);
             tick(timer, system);
         }
         if (self.isNull()) {

@@ -74,6 +74,7 @@ WindowView::Shown WindowView::lookOf(const Control& control) const {
     look.corner = deviceRect(isLine ? *control.Parent : control, scale_).topLeft();
     look.face = control.Face;
     look.caption = control.Caption;
+    look.isEnabled = ombrelia::isEnabled(control);
     if (control.Kind == ControlKind::Label) {
         look.style = static_cast<const Label&>(control).ForeColor;
     } else if (control.Kind == ControlKind::PictureBox) {
@@ -141,43 +142,22 @@ void WindowView::paintEvent(QPaintEvent* event) {
     desktop_.painted(window_);
 }
 
-QPointF WindowView::unitsOf(const QPointF& logical) const {
-    return (logical - QPointF(0, menuHeight())) * (devicePixelRatioF() / scale_);
+// Where the pointer is, in device pixels from the corner below the menus.
+void WindowView::handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button) {
+    const QPointF device = (logical - QPointF(0, menuHeight())) * devicePixelRatioF();
+    const PointerInput input{kind, device.x(), device.y(), buttonOf(button)};
+    desktop_.input(
+        [&window = window_, scale = scale_, input] { pointerInput(window, scale, input); });
 }
 
-// The unit in which the middle of the device pixel lies.
-QPointF WindowView::wholeUnits(const QPointF& units) const {
-    const double middle = 0.5 / scale_;
-    return {std::floor(units.x() + middle), std::floor(units.y() + middle)};
-}
-
-void WindowView::deliverTo(Control& control, Event event, MouseButton button,
-                           const QPointF& units) {
-    const Point corner =
-        control.Kind == ControlKind::Window ? Point{0, 0} : cornerInWindow(control);
-    const bool isWhole =
-        control.Kind == ControlKind::Image && static_cast<Image&>(control).InWholeUnits;
-    const QPointF place = isWhole ? wholeUnits(units) : units;
-    desktop_.run(
-        [&] { deliverMouse(control, event, button, place.x() - corner.x, place.y() - corner.y); });
-}
-
-void WindowView::press(QMouseEvent* event) {
-    const QPointF units = unitsOf(event->position());
-    pressGlobal_ = event->globalPosition().toPoint();
-    pressCorner_ = pos();
-    isMoveArmed_ = false;
-    isFollowing_ = false;
-    Control& under = controlAt(window_, units.x(), units.y());
-    if (under.Kind == ControlKind::ListBox) {
-        if (event->button() == Qt::LeftButton && ombrelia::isEnabled(under)) {
-            openList(static_cast<ListBox&>(under));
-        }
-        return;
+void WindowView::press(PointerKind kind, QMouseEvent* event) {
+    if (event->buttons() == event->button()) {  // no other one is held
+        pressGlobal_ = event->globalPosition().toPoint();
+        pressCorner_ = pos();
+        isMoveArmed_ = false;
+        isFollowing_ = false;
     }
-    captured_ = &under;
-    heldButton_ = buttonOf(event->button());
-    deliverTo(*captured_, Event::MouseDown, heldButton_, units);
+    handOver(kind, event->position(), event->button());
 }
 
 void WindowView::openList(ListBox& list) {
@@ -194,8 +174,7 @@ void WindowView::openList(ListBox& list) {
     });
 }
 
-void WindowView::beginDrag(Control& source) {
-    dragged_ = &source;
+void WindowView::showDragged(Control& source) {
     const QRect place = deviceRect(source, scale_);
     QPixmap icon =
         QPixmap::fromImage(desktop_.skin().face(source.Face, place.width(), place.height()));
@@ -203,37 +182,12 @@ void WindowView::beginDrag(Control& source) {
     setCursor(QCursor(icon));
 }
 
-void WindowView::deliverDrag(Event event, const QPointF& units) {
-    Control& under = controlAt(window_, units.x(), units.y());
-    EventArgs args;
-    args.Dragged = dragged_;
-    desktop_.run([&] { deliver(under, event, args); });
-}
-
 void WindowView::mousePressEvent(QMouseEvent* event) {
-    if (captured_ != nullptr) {
-        return;  // one button at a time
-    }
-    isSecondPress_ = false;
-    press(event);
+    press(PointerKind::Press, event);
 }
 
 void WindowView::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (captured_ != nullptr) {
-        return;
-    }
-    const QPointF units = unitsOf(event->position());
-    Control& control = controlAt(window_, units.x(), units.y());
-    if (control.handlerOf(Event::DblClick) == nullptr) {
-        // Nothing waits for a double click here: the second press is a press like the first.
-        isSecondPress_ = false;
-        press(event);
-        return;
-    }
-    isSecondPress_ = true;
-    captured_ = &control;
-    heldButton_ = buttonOf(event->button());
-    deliverTo(control, Event::DblClick, heldButton_, units);
+    press(PointerKind::SecondPress, event);
 }
 
 bool WindowView::moveWindow(QMouseEvent* event) {
@@ -250,7 +204,7 @@ bool WindowView::moveWindow(QMouseEvent* event) {
     }
     isMoveArmed_ = false;
     if (windowHandle()->startSystemMove()) {
-        captured_ = nullptr;
+        forgetPress();
     } else {
         isFollowing_ = true;
         move(pressCorner_ + moved);
@@ -259,63 +213,26 @@ bool WindowView::moveWindow(QMouseEvent* event) {
 }
 
 void WindowView::mouseMoveEvent(QMouseEvent* event) {
-    if (moveWindow(event)) {
-        return;
-    }
-    const QPointF units = unitsOf(event->position());
-    if (dragged_ != nullptr) {
-        deliverDrag(Event::DragOver, units);
-    } else if (captured_ != nullptr) {
-        deliverTo(*captured_, Event::MouseMove, heldButton_, units);
-    } else {
-        deliverTo(controlAt(window_, units.x(), units.y()), Event::MouseMove, MouseButton::None,
-                  units);
+    if (!moveWindow(event)) {
+        handOver(PointerKind::Move, event->position());
     }
 }
 
 void WindowView::mouseReleaseEvent(QMouseEvent* event) {
-    isMoveArmed_ = false;
-    isFollowing_ = false;
-    if (captured_ == nullptr || buttonOf(event->button()) != heldButton_) {
-        return;
+    if (event->buttons() == Qt::NoButton) {
+        isMoveArmed_ = false;
+        isFollowing_ = false;
     }
-    const QPointF units = unitsOf(event->position());
-    Control& control = *captured_;
-    const MouseButton button = heldButton_;
-    captured_ = nullptr;
-    heldButton_ = MouseButton::None;
-    if (dragged_ != nullptr) {
-        unsetCursor();
-        deliverDrag(Event::DragDrop, units);
-        dragged_ = nullptr;
-        return;
-    }
-    const QPointer<WindowView> self(this);
-    deliverTo(control, Event::MouseUp, button, units);
-    if (self.isNull() || !window_.Loaded) {
-        return;
-    }
-    const bool isInside = &controlAt(window_, units.x(), units.y()) == &control;
-    if (button == MouseButton::Left && isInside && !isSecondPress_) {
-        deliverTo(control, Event::Click, button, units);
-    }
+    handOver(PointerKind::Release, event->position(), event->button());
 }
 
-void WindowView::pressControl(Control& control) {
-    const Point corner = cornerInWindow(control);
-    const QPointF middle(corner.x + control.Width / 2, corner.y + control.Height / 2);
-    const QPointer<WindowView> self(this);
-    for (const Event event : {Event::MouseDown, Event::MouseUp, Event::Click}) {
-        if (!self.isNull() && window_.Loaded) {
-            deliverTo(control, event, MouseButton::Left, middle);
-        }
-    }
+// The toolkit keeps back a move to the place where the pointer came in.
+void WindowView::enterEvent(QEnterEvent* event) {
+    handOver(PointerKind::Move, event->position());
 }
 
 void WindowView::leaveEvent(QEvent* /*event*/) {
-    if (captured_ == nullptr && window_.Loaded) {
-        deliverTo(window_, Event::MouseMove, MouseButton::None, QPointF(-1, -1));
-    }
+    handOver(PointerKind::Leave, {});
 }
 
 void WindowView::closeEvent(QCloseEvent* event) {
@@ -328,9 +245,7 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
         return;
     }
-    EventArgs args;
-    args.KeyCode = virtualKeyOf(*event);
-    desktop_.run([&] { deliver(window_, Event::KeyDown, args); });
+    desktop_.input([&window = window_, code = virtualKeyOf(*event)] { keyInput(window, code); });
 }
 
 void WindowView::resizeEvent(QResizeEvent* event) {

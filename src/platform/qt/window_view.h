@@ -10,8 +10,10 @@
 #include <vector>
 
 #include "platform/control.h"
+#include "platform/pointer.h"
 #include "platform/qt/frame_parts.h"
 #include "platform/qt/skin.h"
+#include "platform/timer_rest.h"
 
 namespace ombrelia {
 
@@ -29,9 +31,6 @@ class WindowView : public QWidget {
 
     // Device pixels to a unit of this window.
     double scale() const { return scale_; }
-
-    // A press and release in the middle of a control, without the mouse.
-    void pressControl(Control& control);
 
     // Asks for a repaint of every part that differs from what was last painted; follows the
     // record's place where the window is docked. True if anything differed.
@@ -53,9 +52,11 @@ class WindowView : public QWidget {
     // The press that is being handled may become a move of the window.
     void armMove() { isMoveArmed_ = true; }
 
-    // The press that is being handled begins a drag of the control, with its picture at the
-    // pointer.
-    void beginDrag(Control& source);
+    // Shows the control's picture as the pointer.
+    void showDragged(Control& source);
+
+    // Opens the list for a choice.
+    void openList(ListBox& list);
 
     // Moves the window to the place in its record; true if it was elsewhere.
     bool followRecord();
@@ -66,6 +67,7 @@ class WindowView : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -76,10 +78,9 @@ class WindowView : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    // A timer of every frame rests after some ticks that changed nothing, until the next event.
     struct SystemTimer {
         QBasicTimer basic;
-        int quietTicks = 0;
+        TimerRest rest;
     };
 
     // What a part looked like when it was last painted.
@@ -91,18 +92,15 @@ class WindowView : public QWidget {
         std::array<double, 4> numbers{};  // ends of a line
         std::uint64_t revision = 0;
         std::uint64_t style = 0;
+        bool isEnabled = true;
         bool operator==(const Shown&) const = default;
     };
 
     Shown lookOf(const Control& control) const;
-    QPointF unitsOf(const QPointF& logical) const;
-    QPointF wholeUnits(const QPointF& units) const;
-    void deliverTo(Control& control, Event event, MouseButton button, const QPointF& units);
-    void press(QMouseEvent* event);
-    void openList(ListBox& list);
+    void handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button = Qt::NoButton);
+    void press(PointerKind kind, QMouseEvent* event);
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
-    void deliverDrag(Event event, const QPointF& units);
     QRect logicalRect(const QRect& device) const;
     void takeSize();
     int menuHeight() const { return frame_ == nullptr ? 0 : frame_->menuHeight(); }
@@ -116,10 +114,6 @@ class WindowView : public QWidget {
     std::map<Timer*, SystemTimer> timers_;
     std::unique_ptr<FrameParts> frame_;  // of a window that is sized by hand
 
-    Control* captured_ = nullptr;  // got the press of the held button
-    Control* dragged_ = nullptr;   // is being dragged by the held button
-    MouseButton heldButton_ = MouseButton::None;
-    bool isSecondPress_ = false;  // of a double click that its control handles
     bool isMoveArmed_ = false;
     bool isFollowing_ = false;  // the window follows the pointer by itself
     QPoint pressGlobal_;
