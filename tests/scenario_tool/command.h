@@ -23,6 +23,7 @@ struct Command {
 
 std::span<const Command> platformCommands();
 std::span<const Command> drivingCommands();
+std::span<const Command> pointerCommands();
 std::span<const Command> shortcutCommands();
 std::span<const Command> lookCommands();
 

@@ -7,8 +7,10 @@
 #include "core/button_numbers.h"
 #include "core/windows/form1.h"
 #include "errors.h"
+#include "mouse_buttons.h"
 #include "names.h"
 #include "platform/dispatch.h"
+#include "platform/pointer.h"
 #include "ticks.h"
 
 namespace ombrelia::scenario {
@@ -17,24 +19,6 @@ namespace {
 
 constexpr double kClickPlace = 2;
 constexpr long kManyTicks = 1000000;
-
-struct ButtonWord {
-    const char* word;
-    MouseButton button;
-};
-constexpr ButtonWord kButtons[] = {{"left", MouseButton::Left},
-                                   {"right", MouseButton::Right},
-                                   {"middle", MouseButton::Middle},
-                                   {"none", MouseButton::None}};
-
-MouseButton buttonNamed(const std::string& word) {
-    const auto* row = std::find_if(std::begin(kButtons), std::end(kButtons),
-                                   [&word](const ButtonWord& r) { return word == r.word; });
-    if (row == std::end(kButtons)) {
-        throw LineError{"there is no mouse button \"" + word + "\""};
-    }
-    return row->button;
-}
 
 bool isOnOff(const std::string& word) {
     if (word != "on" && word != "off") {
@@ -82,10 +66,8 @@ void drag(Session& /*session*/, const Fields& fields) {
     Control& onto = loadedControlNamed(fields[1]);
     sendLeft(dragged, Event::MouseDown, kClickPlace, kClickPlace);
     for (const Event event : {Event::DragOver, Event::DragDrop}) {
-        if (isEnabled(onto) && onto.Owner->Loaded) {
-            EventArgs args;
-            args.Dragged = &dragged;
-            deliver(onto, event, args);
+        if (onto.Owner->Loaded) {
+            deliverDrag(onto, event, dragged);
         }
     }
 }

@@ -16,8 +16,8 @@ namespace ombrelia::scenario {
 namespace {
 
 const Command& commandNamed(const std::string& word) {
-    for (const auto& table :
-         {platformCommands(), drivingCommands(), shortcutCommands(), lookCommands()}) {
+    for (const auto& table : {platformCommands(), drivingCommands(), pointerCommands(),
+                              shortcutCommands(), lookCommands()}) {
         const auto row = std::find_if(table.begin(), table.end(),
                                       [&word](const Command& r) { return word == r.word; });
         if (row != table.end()) {
@@ -37,6 +37,7 @@ Session::Session() {
     platform.install();
     platform.OnFailure = [this](const std::string& sentence) { tellFailure(sentence); };
     platform.OnYield = [this] { inYield(); };
+    platform.OnShown = [this](Window& window) { pointer.shown(window); };
     resetProcess();
 }
 
@@ -86,6 +87,7 @@ void Session::startProcess() {
     }
     resetProcess();
     platform.restart();
+    pointer.reset();
     runHandler(startEditor);
 }
 

@@ -6,6 +6,7 @@
 
 #include "fields.h"
 #include "platform/headless/headless_platform.h"
+#include "user_pointer.h"
 
 namespace ombrelia::scenario {
 
@@ -17,6 +18,7 @@ class Session {
     Session& operator=(const Session&) = delete;
 
     HeadlessPlatform platform;
+    UserPointer pointer;
     bool ticksInYields = false;
 
     // Failures of files and pictures are told in a message box, as on a screen; the others still

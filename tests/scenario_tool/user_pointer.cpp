@@ -1,0 +1,136 @@
+#include "user_pointer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "errors.h"
+
+namespace ombrelia::scenario {
+
+namespace {
+
+bool isSeen(const Window& window) {
+    return window.Loaded && window.Visible && !window.Minimized;
+}
+
+}  // namespace
+
+UserPointer::Spot UserPointer::spotIn(Window& window, double x, double y) const {
+    return {&window, std::floor(x * scale_), std::floor(y * scale_)};
+}
+
+void UserPointer::send(Window& window, PointerKind kind, const Spot& spot, MouseButton button) {
+    onPointer(window, scale_, {kind, spot.x, spot.y, button});
+}
+
+bool UserPointer::isOverWindow() const {
+    return spot_ && isSeen(*spot_->window);
+}
+
+void UserPointer::moveTo(Window& window, double x, double y) {
+    if (!isSeen(window)) {
+        throw LineError{window.Name + " cannot be seen"};
+    }
+    Window& hearing = pressedIn_ == nullptr ? window : *pressedIn_;
+    spot_ = spotIn(hearing, x + window.Left - hearing.Left, y + window.Top - hearing.Top);
+    if (over_ != nullptr && over_ != &hearing) {
+        Window& left = *over_;
+        over_ = nullptr;
+        send(left, PointerKind::Leave, {&left, -1, -1}, MouseButton::None);
+    }
+    over_ = &hearing;
+    send(hearing, PointerKind::Move, *spot_, MouseButton::None);
+}
+
+void UserPointer::moveAway() {
+    if (pressedIn_ != nullptr) {
+        spot_ = Spot{pressedIn_, -1, -1};
+        send(*pressedIn_, PointerKind::Move, *spot_, MouseButton::None);
+        return;
+    }
+    spot_.reset();
+    if (over_ != nullptr) {
+        Window& left = *over_;
+        over_ = nullptr;
+        send(left, PointerKind::Leave, {&left, -1, -1}, MouseButton::None);
+    }
+}
+
+void UserPointer::press(MouseButton button) {
+    if (!isOverWindow()) {
+        throw LineError{"the pointer is over no window"};
+    }
+    if (!held_.insert(button).second) {
+        throw LineError{"this button is down already"};
+    }
+    Window& window = *spot_->window;
+    if (pressedIn_ == nullptr) {
+        pressedIn_ = &window;
+        if (window.DockedTo == nullptr) {
+            shown(window);
+        }
+    }
+    const bool isSecond = firstPress_ == spot_ && firstButton_ == button;
+    firstPress_ = isSecond ? std::nullopt : spot_;
+    firstButton_ = button;
+    send(window, isSecond ? PointerKind::SecondPress : PointerKind::Press, *spot_, button);
+}
+
+void UserPointer::release(MouseButton button) {
+    if (held_.erase(button) == 0) {
+        throw LineError{"this button is not down"};
+    }
+    if (!spot_ || pressedIn_ == nullptr) {
+        return;  // of a process that has ended
+    }
+    Window& window = *pressedIn_;
+    const Spot spot = *spot_;
+    if (held_.empty()) {
+        pressedIn_ = nullptr;
+    }
+    send(window, PointerKind::Release, spot, button);
+    if (held_.empty()) {
+        leaveIfOutside();
+    }
+}
+
+// A pointer that was kept by a held button is free now.
+void UserPointer::leaveIfOutside() {
+    if (!spot_ || over_ == nullptr) {
+        return;
+    }
+    const Window& window = *over_;
+    const bool isInside = spot_->x >= 0 && spot_->y >= 0 && spot_->x < window.Width * scale_ &&
+                          spot_->y < window.Height * scale_;
+    if (!isInside) {
+        moveAway();
+    }
+}
+
+void UserPointer::key(int code) {
+    const auto has = std::find_if(keyboard_.rbegin(), keyboard_.rend(),
+                                  [](const Window* window) { return isSeen(*window); });
+    if (has == keyboard_.rend()) {
+        throw LineError{"no window has the keyboard"};
+    }
+    onKey(**has, code);
+}
+
+void UserPointer::shown(Window& window) {
+    if (window.DockedTo != nullptr) {
+        return;
+    }
+    std::erase(keyboard_, &window);
+    keyboard_.push_back(&window);
+}
+
+void UserPointer::reset() {
+    spot_.reset();
+    over_ = nullptr;
+    pressedIn_ = nullptr;
+    held_.clear();
+    firstPress_.reset();
+    keyboard_.clear();
+}
+
+}  // namespace ombrelia::scenario
