@@ -1,0 +1,27 @@
+// Real events of an X server, made by its test extension, and the way back to who gets them.
+#pragma once
+
+#include <QWidget>
+
+namespace ombrelia::two_ways {
+
+class XInput {
+  public:
+    XInput();
+    ~XInput();
+    XInput(const XInput&) = delete;
+    XInput& operator=(const XInput&) = delete;
+
+    // Where the server has the window's corner; false while it is not on the screen.
+    bool findCorner(const QWidget& window, QPoint& corner);
+
+    // The pointer, device pixels of the screen; the mouse's buttons 1, 2 (the middle) and 3.
+    void moveTo(const QPoint& place);
+    void changeButton(int button, bool isDown);
+
+  private:
+    struct Connection;
+    Connection* connection_;
+};
+
+}  // namespace ombrelia::two_ways
