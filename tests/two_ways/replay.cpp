@@ -199,6 +199,9 @@ void Replay::pointer(Window& window, const PointerInput& input) {
         if (window.Visible) {
             lost_ += "a window on the screen: " + window.Name + "; ";
         }
+        if (input.kind == PointerKind::Release) {  // over what lies behind
+            input_.changeButton(buttonNumber(input.button), false);
+        }
         return;
     }
     if (input.kind == PointerKind::Leave) {
