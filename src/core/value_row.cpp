@@ -1,7 +1,6 @@
 #include "core/value_row.h"
 
 #include <charconv>
-#include <functional>
 #include <system_error>
 
 #include "platform/numeric.h"
@@ -56,19 +55,6 @@ bool parseInto(std::string& value, const std::string& text) {
     return true;
 }
 
-// Visits every element of the row, walking the subscripts from the given one on.
-void forEachElement(const ValueRow& row, char* element, int subscript,
-                    const std::function<void(void*)>& visit) {
-    if (subscript == row.subscripts) {
-        visit(element);
-        return;
-    }
-    const auto& range = row.ranges[static_cast<std::size_t>(subscript)];
-    for (int i = range.low; i <= range.high; ++i) {
-        forEachElement(row, element + (i - range.low) * range.strideBytes, subscript + 1, visit);
-    }
-}
-
 }  // namespace
 
 void* ValueRow::at(std::span<const int> indices) const {
@@ -86,9 +72,18 @@ void* ValueRow::at(std::span<const int> indices) const {
 }
 
 void ValueRow::reset() const {
-    forEachElement(*this, static_cast<char*>(first), 0, [this](void* element) {
-        withElement(kind, element, [](auto& value) { value = {}; });
-    });
+    const auto& [outer, middle, inner] = ranges;
+    auto* const start = static_cast<char*>(first);
+    for (int i = outer.low; i <= outer.high; ++i) {
+        for (int j = middle.low; j <= middle.high; ++j) {
+            for (int k = inner.low; k <= inner.high; ++k) {
+                void* const element = start + (i - outer.low) * outer.strideBytes +
+                                      (j - middle.low) * middle.strideBytes +
+                                      (k - inner.low) * inner.strideBytes;
+                withElement(kind, element, [](auto& value) { value = {}; });
+            }
+        }
+    }
 }
 
 std::string textOf(const ValueRow& row, const void* element) {

@@ -58,6 +58,7 @@ struct ValueRow {
     ScalarKind kind = ScalarKind::Int16;
     void* first = nullptr;  // the element with the lowest subscripts
     int subscripts = 0;     // 0 to 3
+    // Those that the row does not have go from 0 to 0.
     std::array<Subscript, 3> ranges{};
 
     // The element at these subscripts, or nullptr when they are too many, too few or outside.
