@@ -5,6 +5,8 @@ SCREEN_PACKAGES=(xvfb openbox xdotool libxtst6 x11-utils imagemagick)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxtst-dev valgrind netpbm clang-format python3 git
     desktop-file-utils appstream man-db dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     weston xwayland qt6-wayland)
+# Debian 12 has the plug-in that reads drawings in the library's own package.
+grep -qs '^VERSION_ID="12"' /etc/os-release || TEST_PACKAGES+=(qt6-svg-plugins)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
 SCREEN_TESTS='^(window|wayland|accessibility)'  # what runs real windows, for ctest -E
 
