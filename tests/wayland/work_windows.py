@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Works the editor with the mouse under a Wayland compositor that runs in a window of this X screen:
     work_windows.py PROGRAM native|xwayland [PICTURES]
-Says what is wrong and ends with 1 if anything is. PICTURES is a folder to leave what was seen."""
+Says what is wrong and ends with 1 if anything is, and with 77 if nothing can be said since the
+compositor crashes. PICTURES is a folder to leave what was seen."""
 
 import os
 import re
@@ -31,6 +32,10 @@ TITLE = (250, 10)
 MAP = (8, 90, 257)  # left, top, side
 
 
+class CompositorGone(Exception):
+    """Its window is not there, or not any more."""
+
+
 class Screen:
     """The compositor's window: pictures of it, and the mouse in it."""
 
@@ -42,7 +47,9 @@ class Screen:
         """Where the compositor's window stands: a window manager may have moved it."""
         tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True,
                               check=True).stdout
-        line = next(row for row in tree.splitlines() if "Weston Compositor" in row)
+        line = next((row for row in tree.splitlines() if "Weston Compositor" in row), None)
+        if line is None:
+            raise CompositorGone
         self.left, self.top = map(int, re.findall(r"[+-]\d+", line)[-2:])
 
     def picture(self, name=None):
@@ -60,11 +67,13 @@ class Screen:
         subprocess.run(["xdotool", *map(str, words)], check=True)
 
     def move(self, x, y):
-        """The compositor adds up the ways of the pointer: through the corners both agree again."""
+        """The compositor adds up the ways of the pointer: through the corners both agree again.
+        XWayland speeds a long way up and presses where that ends; a short way sets it right."""
         self.find()
         place = (self.left + round(x), self.top + round(y))
         words = []
-        for step in ((self.left + WIDTH - 1, self.top + HEIGHT - 1), (self.left, self.top), place):
+        for step in ((self.left + WIDTH - 1, self.top + HEIGHT - 1), (self.left, self.top), place,
+                     (place[0] + 1, place[1] + 1), place):
             words += ["mousemove", *step, "sleep", 0.1]
         self.mouse(*words)
 
@@ -188,8 +197,8 @@ def tell_story(screen):
     return None
 
 
-def main():
-    program, mode = sys.argv[1], sys.argv[2]
+def try_editor(program, mode):
+    """Starts a compositor and the editor in it: what is wrong, or None. May raise CompositorGone."""
     with tempfile.TemporaryDirectory() as folder:
         with open(f"{folder}/weston.ini", "w", encoding="ascii") as file:
             file.write(SETTINGS)
@@ -209,27 +218,37 @@ def main():
                 with open(f"{folder}/log", encoding="utf-8") as file:
                     environment["DISPLAY"] = re.search(r"xserver listening on display (:\d+)",
                                                        file.read()).group(1)
-            # Where the compositor of XWayland puts the hint frame is left to chance: it may lie on
-            # the very button that is needed.
-            for _ in range(1 if mode == "native" else 4):
-                editor = subprocess.Popen([program], env=environment)
-                fault = tell_story(screen)
-                if fault is None and editor.poll() is not None:
-                    fault = "the editor has ended"
-                if fault is None:
-                    break
-                editor.terminate()
-                editor.wait()
+            editor = subprocess.Popen([program], env=environment)
+            fault = tell_story(screen)
+            if fault is None and editor.poll() is not None:
+                fault = "the editor has ended"
+            if compositor.poll() is not None:
+                raise CompositorGone
             if fault is not None:
                 screen.picture("fault")
+            return fault
         finally:
             for process in (editor, compositor):
                 if process is not None:
                     process.terminate()
                     process.wait()
-    if fault is not None:
+
+
+def main():
+    program, mode = sys.argv[1], sys.argv[2]
+    has_crashed = False
+    # Where the compositor of XWayland puts the hint frame is left to chance: it may lie on the very
+    # button that is needed.
+    for _ in range(1 if mode == "native" else 4):
+        try:
+            fault = try_editor(program, mode)
+        except CompositorGone:
+            fault = "the compositor has crashed"
+            has_crashed = True
+        if fault is None:
+            return 0
         print(fault, file=sys.stderr)
-    return 0 if fault is None else 1
+    return 77 if has_crashed else 1
 
 
 if __name__ == "__main__":
