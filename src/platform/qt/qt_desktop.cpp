@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QThread>
+#include <QTimer>
 #include <QUrl>
 #include <QWindow>
 #include <utility>
@@ -220,9 +221,16 @@ bool QtDesktop::sync() {
     return isChanged;
 }
 
-void QtDesktop::painted(Window& /*window*/) {
+void QtDesktop::painted(Window& window) {
     if (OnFirstPaint) {
         std::exchange(OnFirstPaint, nullptr)();
+    }
+    if (!canPlaceWindows()) {
+        QTimer::singleShot(0, &viewOf(window), [this, &window] {
+            if (views_.contains(&window)) {
+                showDocked(window);
+            }
+        });
     }
 }
 
@@ -266,6 +274,10 @@ void QtDesktop::shown(Window& window) {
 
 void QtDesktop::showDocked(Window& host) {
     WindowView& hostView = viewOf(host);
+    // A compositor takes a window beside another only once that one is seen: painted() comes back.
+    if (!canPlaceWindows() && !(hostView.isVisible() && hostView.windowHandle()->isExposed())) {
+        return;
+    }
     for (const auto& [window, view] : views_) {
         if (window->DockedTo != &host || !window->Visible || view->isVisible()) {
             continue;
