@@ -11,8 +11,11 @@ cd "$(dirname "$0")/.."
 install_missing mmdebstrap git
 [ $# -gt 0 ] || set -- bookworm trixie testing
 
+alone=()
 if [ "$(id -u)" -eq 0 ]; then
-    unshare --mount true 2>/dev/null || {
+    # What is mounted and started in a root ends with it, even if it is interrupted.
+    alone=(unshare --mount --pid --fork --kill-child --mount-proc)
+    "${alone[@]}" true 2>/dev/null || {
         echo "This root may not mount. In a container, give it the right to (CAP_SYS_ADMIN)." >&2
         exit 1
     }
@@ -71,7 +74,7 @@ for suite in "$@"; do
         after=(--customize-hook='umount "$1/cache"')
     fi
     # A mirror that lags has lists that are out of date by their own word.
-    mmdebstrap --variant=apt --format=null --include=git,ca-certificates \
+    "${alone[@]}" mmdebstrap --variant=apt --format=null --include=git,ca-certificates \
         --aptopt='Acquire::Check-Valid-Until "false"' "${hooks[@]}" "${here[@]}" \
         --customize-hook='chroot "$1" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root \
             LANG=C.UTF-8 CCACHE_DIR=/cache bash /root/try.sh </dev/null' \
