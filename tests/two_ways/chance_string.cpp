@@ -83,8 +83,8 @@ class Maker {
         return seen;
     }
 
-    // A place in a window.
-    std::string placeIn(Window& window) {
+    // A place in a window; while a button is held, perhaps a little beyond it.
+    std::string placeIn(Window& window, bool isHeld) {
         double x = chance_.between(-kBeyond, static_cast<int>(window.Width));
         double y = chance_.between(-kBeyond, static_cast<int>(window.Height));
         std::vector<Control*> parts;
@@ -101,7 +101,7 @@ class Maker {
             x = corner.x + chance_.between(-1, static_cast<int>(part.Width));
             y = corner.y + chance_.between(-1, static_cast<int>(part.Height));
         }
-        if (session_.pointer.pressedIn() == nullptr) {  // a place beyond the window is another's
+        if (!isHeld) {  // a place beyond the window is another's
             x = std::min(std::max(x, 0.0), window.Width - 1);
             y = std::min(std::max(y, 0.0), window.Height - 1);
         }
@@ -124,7 +124,7 @@ class Maker {
         }
         Window* held = session_.pointer.pressedIn();
         Window& chosen = Form1.Visible && chance_.percent(70) ? Form1 : *chance_.oneOf(seen);
-        const std::string line = placeIn(held == nullptr ? chosen : *held);
+        const std::string line = placeIn(held == nullptr ? chosen : *held, held != nullptr);
         if (!line.empty()) {
             run(line);
         }
@@ -171,7 +171,7 @@ class Maker {
         const std::string when = "on-yield " + std::to_string(chance_.between(1, 60)) + " ";
         constexpr const char* kDeeds[] = {"down left", "up left", "tick 2"};
         if (chance_.percent(40)) {
-            const std::string line = Form1.Visible ? placeIn(Form1) : std::string();
+            const std::string line = Form1.Visible ? placeIn(Form1, false) : std::string();
             if (!line.empty()) {
                 run(when + line);
                 last_.clear();  // where the pointer is then, nobody knows yet

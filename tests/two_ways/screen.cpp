@@ -142,7 +142,7 @@ class Comparison {
             const std::string wanted = i < expected.size() ? expected[i] : "nothing";
             const std::string got = i < found.size() ? found[i] : "nothing";
             if (wanted != got) {
-                std::cout << "  headless: " << wanted << "\n  screen:   " << got << '\n';
+                std::cout << "  headless: " << wanted << "\n  screen:   " << got << std::endl;
             }
         }
     }

@@ -144,8 +144,11 @@ WindowView& QtDesktop::viewOf(Window& window) {
     return *view;
 }
 
-// False when the process is to end.
+// False when the process is to end. What the windows still send as they go is heard by nobody.
 bool QtDesktop::runOrEnd(const std::function<void()>& event) {
+    if (hasEnded_) {
+        return false;
+    }
     try {
         event();
     } catch (const ProcessEnd&) {
@@ -390,6 +393,7 @@ void QtDesktop::openWebPage(const std::string& address) {
 }
 
 void QtDesktop::end() {
+    hasEnded_ = true;
     for (const auto& [window, view] : views_) {
         view->hide();
     }

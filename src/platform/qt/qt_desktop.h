@@ -110,6 +110,7 @@ class QtDesktop : public Desktop {
     QElapsedTimer sinceRefresh_;
     KeptInput keptInput_;
     int yieldMilliseconds_ = 0;
+    bool hasEnded_ = false;
 };
 
 }  // namespace ombrelia
