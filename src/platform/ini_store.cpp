@@ -179,7 +179,7 @@ IniSections parseIni(std::string_view text, bool& isMalformed) {
 std::string formatIni(const IniSections& sections) {
     std::string text;
     for (const auto& [section, entries] : sections) {
-        text += "[" + encoded(section) + "]\n";
+        text.append("[").append(encoded(section)).append("]\n");
         for (const auto& [key, value] : entries) {
             text += encoded(key) + "=" + encoded(value) + "\n";
         }

@@ -29,8 +29,9 @@ std::string inQuarters(int quarters) {
     const char* const parts[] = {"", ".25", ".5", ".75"};
     const bool isNegative = quarters < 0;
     const int size = isNegative ? -quarters : quarters;
-    return (isNegative ? "-" : "") + std::to_string(size / kQuartersOfUnit) +
-           parts[size % kQuartersOfUnit];
+    std::string text = isNegative ? "-" : "";
+    return text.append(std::to_string(size / kQuartersOfUnit))
+        .append(parts[size % kQuartersOfUnit]);
 }
 
 bool canBeHit(const Control& control) {

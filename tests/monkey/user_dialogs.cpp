@@ -68,7 +68,7 @@ std::string User::openPath() {
 std::string User::colorText() {
     std::string text = std::to_string(chance_.below(256));
     for (int n = 0; n < 2; ++n) {
-        text += " " + std::to_string(chance_.below(256));
+        text.append(" ").append(std::to_string(chance_.below(256)));
     }
     return text;
 }

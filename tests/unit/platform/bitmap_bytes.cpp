@@ -156,8 +156,9 @@ std::string refusalOf(const std::string& bytes) {
 }
 
 std::string refusal(const std::string& reason) {
-    return std::string("The picture \"") + kPath + "\" could not be loaded: " + reason +
-           ". The map is unharmed.";
+    std::string text = "The picture \"";
+    text.append(kPath).append("\" could not be loaded: ").append(reason);
+    return text.append(". The map is unharmed.");
 }
 
 }  // namespace ombrelia
