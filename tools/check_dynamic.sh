@@ -10,14 +10,14 @@ build sanitize yes
 # runs, as the toolkit's picture formats are, and its search for leaks crashes there.
 export ASAN_OPTIONS=intercept_tls_get_addr=0
 step "Running the tests that need no screen under the sanitizers"
-ctest --preset sanitize -j2 -E "$SCREEN_TESTS"
+run_tests sanitize -E "$SCREEN_TESTS"
 
-build release yes scenario
+build "$PRESET" yes scenario
 step "Running a scenario under valgrind"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 scenario=$PWD/tests/scenarios/day/one_day_visits_everything.txt
-tool=$PWD/build/scenario
+tool=$PWD/$(folder_of "$PRESET")/scenario
 cd "$scratch"
 sed -n 's/^# given p.ppm //p' "$scenario" >p.ppm
 valgrind --quiet --error-exitcode=9 --leak-check=full "$tool" "$scenario"

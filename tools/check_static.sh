@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# The other compiler and the checks of the code as it stands: clang builds everything without a
-# warning, its programs pass the tests that need no screen, and clang-tidy finds nothing.
+# Both compilers and the checks of the code as it stands: g++ and clang build everything without a
+# warning, clang's programs pass the tests that need no screen, and clang-tidy finds nothing.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/setup.sh
 install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang clang-tidy
-build clang yes
+build strict yes all benchmarks picture_book
+build clang yes all benchmarks picture_book
 step "Running the tests that need no screen, as clang makes them"
-ctest --preset clang -j2 -E "$SCREEN_TESTS"
+run_tests clang -E "$SCREEN_TESTS"
 step "Looking for mistakes that no compiler sees"
 # The unit tests take twice as long as all the rest together; the compilers alone look at them.
 git ls-files 'src/*.cpp' 'tests/*.cpp' 'benchmarks/*.cpp' | grep -Ev '^tests/(fuzz|unit)/' |

@@ -9,7 +9,7 @@ build coverage yes unit_tests scenario
 step "Running the unit tests and the scenarios"
 rm -rf build-coverage/profiles
 export LLVM_PROFILE_FILE=$PWD/build-coverage/profiles/%2m.profraw
-ctest --preset coverage -j2 -R '^(unit|scenario)\.'
+run_tests coverage -R '^(unit|scenario)\.'
 step "Counting"
 llvm-profdata merge -sparse build-coverage/profiles/*.profraw -o build-coverage/all.profdata
 llvm-cov export build-coverage/unit_tests -object build-coverage/scenario \

@@ -1,17 +1,34 @@
-# Shared by ./run and ./test: packages and the build.
+# Shared by the commands and the tools: packages, the build, and how the tests are run.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-image-formats-plugins libgl-dev
     librsvg2-bin libcanberra-dev libcanberra-pulse fonts-dejavu-core)
 SCREEN_PACKAGES=(xvfb openbox xdotool libxtst6 x11-utils imagemagick)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxtst-dev valgrind netpbm clang-format python3 git
-    desktop-file-utils appstream man-db dbus at-spi2-core python3-gi gir1.2-atspi-2.0
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxtst-dev valgrind netpbm python3 git
+    dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     weston xwayland qt6-wayland)
 # Debian 12 has the plug-in that reads drawings in the library's own package.
 grep -qs '^VERSION_ID="12"' /etc/os-release || TEST_PACKAGES+=(qt6-svg-plugins)
+CHECK_PACKAGES=(git python3 clang-format desktop-file-utils appstream man-db)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
+PRESET=${PRESET:-release}  # what the tests are built with; .ci/run takes "strict"
 SCREEN_TESTS='^(window|wayland|accessibility)'  # what runs real windows, for ctest -E
 
+# Says what begins, and how long what came before has taken.
 step() {
+    end_step
     printf '\n== %s\n' "$*"
+    step_began=$SECONDS
+}
+
+end_step() {
+    [ -z "${step_began:-}" ] || printf -- '-- took %d s\n' $((SECONDS - step_began))
+    step_began=
+}
+
+# has_version COMMAND VERSION: whether it is here in a version that begins so; says if it is not.
+has_version() {
+    "$1" --version 2>/dev/null | grep -Eq "(^|[^0-9.])${2//./\\.}(\.|[^0-9.]|\$)" && return
+    echo "left out: $1 $2 is not here"
+    return 1
 }
 
 # Installs those of the named packages that are missing, and says so.
@@ -37,19 +54,46 @@ install_missing() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# The folder in which a preset is built.
+folder_of() {
+    [ "$1" = release ] && echo build || echo "build-$1"
+}
+
 # build PRESET yes|no [TARGET ...]; yes: with the tests
 build() {
     local preset=$1 tests=$2 folder targets=()
     shift 2
-    folder=build
-    [ "$preset" = release ] || folder=build-$preset
+    folder=$(folder_of "$preset")
     step "Building ($preset)"
-    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1  # one cache for every folder that it is built in
+    # One cache for every folder that it is built in, and for sources behind compiled headers.
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
     if [ ! -f "$folder/build.ninja" ]; then
         cmake --preset "$preset" -DBUILD_TESTING="$([ "$tests" = yes ] && echo ON || echo OFF)" >/dev/null
     elif [ "$tests" = yes ] && ! grep -q '^BUILD_TESTING:BOOL=ON' "$folder/CMakeCache.txt"; then
         cmake --preset "$preset" -DBUILD_TESTING=ON >/dev/null
+    elif [ CMakePresets.json -nt "$folder/build.ninja" ]; then
+        cmake --preset "$preset" >/dev/null
     fi
     [ $# -eq 0 ] || targets=(--target "$@")
     cmake --build "$folder" "${targets[@]}"
+}
+
+# run_tests PRESET [WORD ...]: words for ctest. Five tests at once on each core, since real windows
+# mostly wait; what computes counts for five (CMakeLists.txt).
+run_tests() {
+    local folder status=0
+    folder=$(folder_of "$1")
+    shift
+    ctest --test-dir "$folder" --output-on-failure --no-tests=error --no-label-summary \
+        -j$(($(nproc) * 5)) "$@" || status=$?
+    # Also what a test leaves out on this machine, which is no failure.
+    awk '$2 == "Test:" { split($3, name, ".") }
+        /^Test time = / { seconds[name[1]] += $4; ++count[name[1]] }
+        /^left out: /
+        END {
+            for (kind in count) {
+                printf "-- %s: %d tests, %.0f s one by one\n", kind, count[kind], seconds[kind]
+            }
+        }' "$folder/Testing/Temporary/LastTest.log"
+    return "$status"
 }
