@@ -55,7 +55,7 @@ def compare(counts, before):
 def main():
     program, path = sys.argv[1], pathlib.Path(sys.argv[2])
     if " avx2 " not in pathlib.Path("/proc/cpuinfo").read_text():
-        print("the counts on record are those of a processor with AVX2, which this is not")
+        print("left out: the counts of instructions; those on record are of a processor with AVX2")
         return NOT_COMPARABLE
     counts = count(program)
     if "--record" in sys.argv:
