@@ -1,11 +1,13 @@
 #include "screen_driver.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QMessageBox>
 #include <QScreen>
 #include <QWindow>
 #include <chrono>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <thread>
@@ -23,6 +25,29 @@ namespace ombrelia {
 namespace {
 
 constexpr int kPatienceMilliseconds = 30000;
+constexpr int kHearingMilliseconds = 1500;  // an event takes less, even on a busy machine
+
+// Counts what comes from the X server of the mouse and the keyboard, also what is kept for later.
+class Ear : public QAbstractNativeEventFilter {
+  public:
+    explicit Ear(std::atomic<int>& heard) : heard_(heard) {}
+    bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* /*result*/) override {
+        if (kind == "xcb_generic_event_t") {
+            const auto* bytes = static_cast<const std::uint8_t*>(message);
+            int type = bytes[0] & 0x7F;
+            if (type == kExtendedEvent) {
+                type = bytes[8];
+            }
+            heard_ += type >= kFirstInput && type <= kLastInput ? 1 : 0;
+        }
+        return false;
+    }
+
+  private:
+    // The protocol's numbers: key, button, motion. Those of the input extension are among them.
+    static constexpr int kFirstInput = 2, kLastInput = 6, kExtendedEvent = 35;
+    std::atomic<int>& heard_;
+};
 
 WindowView* viewOf(const Window& window) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -60,11 +85,13 @@ void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yiel
     static char name[] = "window_tests";
     static char* arguments[] = {name, nullptr};
     ScreenDriver driver;
+    Ear ear(driver.heard_);
     std::thread person;
     resetProcess();
     const int status = runProgram(
         1, arguments,
         {[&] {
+             qApp->installNativeEventFilter(&ear);
              startEditor();
              person = std::thread([&] {
                  story(driver);
@@ -109,16 +136,27 @@ bool ScreenDriver::waitForWindow(Window& window) {
     return isThere;
 }
 
-void ScreenDriver::tell(const std::string& words) {
+void ScreenDriver::tell(const std::string& words, int events) {
+    const int awaited = heard_ + events;
     const int status = std::system(("xdotool " + words).c_str());
     EXPECT_EQ(status, 0) << words;
+    for (int waited = 0; waited < kHearingMilliseconds && heard_ < awaited && !hasEnded_;
+         waited += 5) {
+        rest(5);
+    }
+}
+
+void ScreenDriver::movePointer(const QPoint& place) {
+    tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()),
+         place == pointer_ ? 0 : 1);
+    pointer_ = place;
+    rest(60);
 }
 
 void ScreenDriver::moveTo(Control& control, double x, double y) {
     QPoint place;
     inProgram([&] { place = onScreen(control, x, y); });
-    tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()));
-    rest(60);
+    movePointer(place);
 }
 
 void ScreenDriver::moveTo(Control& control) {
@@ -147,19 +185,18 @@ void ScreenDriver::click(Control& control, double x, double y) {
 
 void ScreenDriver::doubleClick(Control& control) {
     moveTo(control);
-    tell("click --repeat 2 --delay 60 1");
+    tell("click --repeat 2 --delay 60 1", 4);
     rest();
 }
 
 void ScreenDriver::clickAt(const QPoint& place) {
-    tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()));
-    rest(60);
+    movePointer(place);
     press();
     release();
 }
 
 void ScreenDriver::type(const std::string& text) {
-    tell("type --delay 8 '" + text + "'");
+    tell("type --delay 8 '" + text + "'", static_cast<int>(text.size()));
     rest();
 }
 

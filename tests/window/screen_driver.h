@@ -58,8 +58,13 @@ class ScreenDriver {
 
   private:
     std::atomic<bool> hasEnded_ = false;
+    std::atomic<int> heard_ = 0;  // presses, releases, moves and keys that reached a window
+    QPoint pointer_{-1, -1};      // where the mouse was moved to last
 
-    void tell(const std::string& words);
+    // What the X server shall do; waits until the windows have heard of so many events, or until
+    // they will not hear of them, as where the pointer is outside.
+    void tell(const std::string& words, int events = 1);
+    void movePointer(const QPoint& place);
 };
 
 }  // namespace ombrelia
