@@ -30,23 +30,24 @@ constexpr int kHearingMilliseconds = 1500;  // an event takes less, even on a bu
 // Counts what comes from the X server of the mouse and the keyboard, also what is kept for later.
 class Ear : public QAbstractNativeEventFilter {
   public:
-    explicit Ear(std::atomic<int>& heard) : heard_(heard) {}
+    explicit Ear(HeardEvents& heard) : heard_(heard) {}
     bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* /*result*/) override {
         if (kind == "xcb_generic_event_t") {
             const auto* bytes = static_cast<const std::uint8_t*>(message);
-            int type = bytes[0] & 0x7F;
+            std::size_t type = bytes[0] & 0x7F;
             if (type == kExtendedEvent) {
                 type = bytes[8];
             }
-            heard_ += type >= kFirstInput && type <= kLastInput ? 1 : 0;
+            if (type < heard_.size()) {
+                ++heard_[type];
+            }
         }
         return false;
     }
 
   private:
-    // The protocol's numbers: key, button, motion. Those of the input extension are among them.
-    static constexpr int kFirstInput = 2, kLastInput = 6, kExtendedEvent = 35;
-    std::atomic<int>& heard_;
+    static constexpr std::size_t kExtendedEvent = 35;
+    HeardEvents& heard_;
 };
 
 WindowView* viewOf(const Window& window) {
@@ -136,11 +137,12 @@ bool ScreenDriver::waitForWindow(Window& window) {
     return isThere;
 }
 
-void ScreenDriver::tell(const std::string& words, int events) {
-    const int awaited = heard_ + events;
+void ScreenDriver::tell(const std::string& words, InputKind kind, int events) {
+    const std::atomic<int>& heard = heard_[static_cast<std::size_t>(kind)];
+    const int awaited = heard + events;
     const int status = std::system(("xdotool " + words).c_str());
     EXPECT_EQ(status, 0) << words;
-    for (int waited = 0; waited < kHearingMilliseconds && heard_ < awaited && !hasEnded_;
+    for (int waited = 0; waited < kHearingMilliseconds && heard < awaited && !hasEnded_;
          waited += 5) {
         rest(5);
     }
@@ -148,7 +150,7 @@ void ScreenDriver::tell(const std::string& words, int events) {
 
 void ScreenDriver::movePointer(const QPoint& place) {
     tell("mousemove " + std::to_string(place.x()) + " " + std::to_string(place.y()),
-         place == pointer_ ? 0 : 1);
+         InputKind::Motion, place == pointer_ ? 0 : 1);
     pointer_ = place;
     rest(60);
 }
@@ -164,12 +166,12 @@ void ScreenDriver::moveTo(Control& control) {
 }
 
 void ScreenDriver::press(int button) {
-    tell("mousedown " + std::to_string(button));
+    tell("mousedown " + std::to_string(button), InputKind::ButtonPress);
     rest(60);
 }
 
 void ScreenDriver::release(int button) {
-    tell("mouseup " + std::to_string(button));
+    tell("mouseup " + std::to_string(button), InputKind::ButtonRelease);
     rest();
 }
 
@@ -185,7 +187,7 @@ void ScreenDriver::click(Control& control, double x, double y) {
 
 void ScreenDriver::doubleClick(Control& control) {
     moveTo(control);
-    tell("click --repeat 2 --delay 60 1", 4);
+    tell("click --repeat 2 --delay 60 1", InputKind::ButtonRelease, 2);
     rest();
 }
 
@@ -196,12 +198,12 @@ void ScreenDriver::clickAt(const QPoint& place) {
 }
 
 void ScreenDriver::type(const std::string& text) {
-    tell("type --delay 8 '" + text + "'", static_cast<int>(text.size()));
+    tell("type --delay 8 '" + text + "'", InputKind::KeyPress, static_cast<int>(text.size()));
     rest();
 }
 
 void ScreenDriver::key(const std::string& name) {
-    tell("key " + name);
+    tell("key " + name, InputKind::KeyPress);
     rest();
 }
 

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPoint>
+#include <array>
 #include <atomic>
 #include <functional>
 #include <string>
@@ -11,6 +12,12 @@
 #include "platform/control.h"
 
 namespace ombrelia {
+
+// Numbers of the X protocol and of its input extension alike.
+enum class InputKind { KeyPress = 2, KeyRelease, ButtonPress, ButtonRelease, Motion };
+
+// Events of each kind that reached the program.
+using HeardEvents = std::array<std::atomic<int>, 7>;
 
 class ScreenDriver {
   public:
@@ -58,12 +65,12 @@ class ScreenDriver {
 
   private:
     std::atomic<bool> hasEnded_ = false;
-    std::atomic<int> heard_ = 0;  // presses, releases, moves and keys that reached a window
-    QPoint pointer_{-1, -1};      // where the mouse was moved to last
+    HeardEvents heard_{};
+    QPoint pointer_{-1, -1};  // where the mouse was moved to last
 
-    // What the X server shall do; waits until the windows have heard of so many events, or until
-    // they will not hear of them, as where the pointer is outside.
-    void tell(const std::string& words, int events = 1);
+    // What the X server shall do; waits until the windows have heard of so many events of a kind,
+    // or until they will not hear of them, as where the pointer is outside.
+    void tell(const std::string& words, InputKind kind, int events = 1);
     void movePointer(const QPoint& place);
 };
 
