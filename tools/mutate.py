@@ -52,6 +52,7 @@ class Bench:
         self.scratch = self.tree / "build/scratch"
         self.killers = {}  # scenarios, by how often they were the first to fail
         self.environment = dict(os.environ, CCACHE_BASEDIR=str(self.tree), CCACHE_NOHASHDIR="1",
+                                CCACHE_SLOPPINESS="pch_defines,time_macros",
                                 GTEST_COLOR="no")
 
     def prepare(self):
