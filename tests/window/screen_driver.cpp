@@ -132,7 +132,12 @@ bool ScreenDriver::waitFor(const std::function<bool()>& holds) {
 }
 
 bool ScreenDriver::waitForWindow(Window& window) {
-    const bool isThere = waitFor([&] { return viewOf(window) != nullptr; });
+    return waitForEither(window, window);
+}
+
+bool ScreenDriver::waitForEither(Window& window, Window& other) {
+    const bool isThere =
+        waitFor([&] { return viewOf(window) != nullptr || viewOf(other) != nullptr; });
     rest(250);
     return isThere;
 }

@@ -32,6 +32,7 @@ class ScreenDriver {
     // Waits until something holds, a few seconds at most; false if it does not.
     bool waitFor(const std::function<bool()>& holds);
     bool waitForWindow(Window& window);
+    bool waitForEither(Window& window, Window& other);
 
     // The mouse, at a place in units from a control's inner corner (its middle if left out).
     void moveTo(Control& control, double x, double y);

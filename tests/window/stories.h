@@ -8,13 +8,23 @@
 
 namespace ombrelia {
 
-// From the splash to the editor with a map of the size whose button is named.
-inline bool openEditor(ScreenDriver& driver, int sizeButton) {
-    if (!driver.waitForWindow(frmSplash)) {
+// From the splash to the choice of the size. On a full machine the splash can be over before it is
+// seen.
+inline bool openSizeSelect(ScreenDriver& driver) {
+    if (!driver.waitForEither(frmSplash, SizeSelect)) {
         return false;
     }
-    driver.click(frmSplash, 60, 60);
-    if (!driver.waitForWindow(SizeSelect)) {
+    bool isSplash = false;
+    driver.inProgram([&] { isSplash = frmSplash.Visible; });
+    if (isSplash) {
+        driver.click(frmSplash, 60, 60);
+    }
+    return driver.waitForWindow(SizeSelect);
+}
+
+// From the splash to the editor with a map of the size whose button is named.
+inline bool openEditor(ScreenDriver& driver, int sizeButton) {
+    if (!openSizeSelect(driver)) {
         return false;
     }
     driver.click(SizeSelect.LTool(sizeButton));

@@ -81,9 +81,7 @@ TEST(Import, a_bitmap_from_the_size_window) {
     const QTemporaryDir folder;
     const QString path = pictureIn(folder, "picture.bmp");
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(driver.waitForWindow(frmSplash));
-        driver.click(frmSplash, 60, 60);
-        ASSERT_TRUE(driver.waitForWindow(SizeSelect));
+        ASSERT_TRUE(openSizeSelect(driver));
         driver.click(SizeSelect.LTool(button::kSizeImport));
         answerImport(driver, path);
         expectBlocks(driver, 0);
@@ -92,9 +90,7 @@ TEST(Import, a_bitmap_from_the_size_window) {
 
 TEST(Import, a_cancelled_choice_at_the_start_opens_a_large_map) {
     ScreenDriver::run([](ScreenDriver& driver) {
-        ASSERT_TRUE(driver.waitForWindow(frmSplash));
-        driver.click(frmSplash, 60, 60);
-        ASSERT_TRUE(driver.waitForWindow(SizeSelect));
+        ASSERT_TRUE(openSizeSelect(driver));
         driver.click(SizeSelect.LTool(button::kSizeImport));
         ASSERT_TRUE(driver.waitForDialog("Select Image to Import"));
         driver.key("Escape");

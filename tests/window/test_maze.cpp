@@ -33,18 +33,10 @@ bool isReady() {
 
 // The editor over a marked map, opened with the flag of the hidden drag set.
 bool openArmedEditor(ScreenDriver& driver) {
-    if (!driver.waitForWindow(frmSplash)) {
+    if (!openSizeSelect(driver)) {
         return false;
     }
-    driver.click(frmSplash, 60, 60);
-    if (!driver.waitForWindow(SizeSelect)) {
-        return false;
-    }
-    driver.moveTo(SizeSelect.Label2);
-    for (int i = 0; i < 2; ++i) {
-        driver.press();
-        driver.release();
-    }
+    driver.doubleClick(SizeSelect.Label2);
     if (!driver.waitFor([] { return EggArmed == 1; })) {
         return false;
     }

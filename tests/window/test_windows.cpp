@@ -106,15 +106,10 @@ TEST(Windows, about_shows_the_splash_until_it_is_clicked) {
 
 TEST(Windows, the_joke_of_the_size_dialog_is_told_by_the_mouse) {
     ScreenDriver::run([](ScreenDriver& driver) {
-        ASSERT_TRUE(driver.waitForWindow(frmSplash));
-        driver.click(frmSplash, 60, 60);
-        ASSERT_TRUE(driver.waitForWindow(SizeSelect));
+        ASSERT_TRUE(openSizeSelect(driver));
         driver.moveTo(SizeSelect.Label2);
         EXPECT_TRUE(driver.waitFor([] { return SizeSelect.Label2.Caption == kImportLineHovered; }));
-        driver.press();
-        driver.release();
-        driver.press();
-        driver.release();
+        driver.doubleClick(SizeSelect.Label2);
         EXPECT_TRUE(driver.waitFor([] { return EggArmed == 1; }));
         driver.inProgram([] { EXPECT_EQ(SizeSelect.Label2.Caption, kImportLineArmed); });
         driver.moveTo(SizeSelect.NTool(button::kSizeLarge), 3, 3);
