@@ -10,6 +10,7 @@ for processor in aarch64 s390x; do
     step "Building for $processor"
     # Linked whole, so that the emulator needs no libraries of the other processor.
     cmake -S . -B "build-$processor" -G Ninja -DCMAKE_BUILD_TYPE=Release -DHEADLESS_ONLY=ON \
+        -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
         -DWARNINGS_ARE_ERRORS=ON -DCMAKE_SYSTEM_NAME=Linux -DCMAKE_SYSTEM_PROCESSOR="$processor" \
         -DCMAKE_CXX_COMPILER="$processor-linux-gnu-g++" -DCMAKE_EXE_LINKER_FLAGS=-static \
         -DCMAKE_CROSSCOMPILING_EMULATOR="qemu-$processor" >/dev/null
