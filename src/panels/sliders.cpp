@@ -7,6 +7,7 @@
 #include "core/color_ramp.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/slider_table.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
@@ -16,30 +17,13 @@ namespace ombrelia {
 
 namespace {
 
-enum class Readout { Value, MetresOfAmount, MetresOfHeight };
-
-struct SliderStart {
-    int number;
-    std::int16_t min, max, start;
-    Readout readout;
-};
-
-constexpr SliderStart kSliders[] = {
-    {1, 1, 20, 1, Readout::Value},           {2, 1, 20, 1, Readout::Value},
-    {3, 1, 20, 10, Readout::MetresOfAmount}, {4, 1, 10, 4, Readout::Value},
-    {5, 1, 10, 1, Readout::Value},           {6, 50, 255, 255, Readout::MetresOfHeight},
-    {7, 1, 30, 1, Readout::Value},           {8, 5, 30, 5, Readout::Value},
-    {9, 1, 20, 1, Readout::Value},           {10, 20, 200, 60, Readout::MetresOfHeight},
-    {11, 1, 20, 4, Readout::MetresOfAmount}, {12, 2, 15, 3, Readout::Value},
-    {13, 3, 25, 10, Readout::Value},         {14, 1, 8, 5, Readout::Value},
-};
-
 constexpr int kRiverWidth = 12;
 constexpr int kBankWidth = 13;
 constexpr double kFramePitch = 128;
 
-const SliderStart& startOf(int slider) {
-    return kSliders[slider - kFirstSlider];
+// Thumbs stand at places of single precision: the tracks' widths count on it.
+float single(double place) {
+    return static_cast<float>(place);
 }
 
 // Where the value lies between Min and Max, 0..1.
@@ -77,7 +61,7 @@ void keepBankWider(int dragged) {
 }  // namespace
 
 void fillSliders() {
-    for (const SliderStart& row : kSliders) {
+    for (const SliderStart& row : sliderStarts()) {
         SliderValues(row.number) = {1, row.start, row.max, row.min};
         PlaceSlider(row.number);
         showReadout(row.number);
@@ -92,7 +76,7 @@ void PlaceSlider(int i) {
         if (track.Face.picture == Picture::None) {
             track.Face = {Picture::SliderTrack, 0};
         }
-        thumb.Left = shareOf(record) * (track.Width - thumb.Width) + track.Left;
+        thumb.Left = single(shareOf(record) * (track.Width - thumb.Width) + track.Left);
         refreshControl(thumb);
         refreshControl(track);
     } else {
@@ -110,7 +94,7 @@ void PlaceSlider(int i) {
 void showReadout(int i) {
     const int value = SliderValues(i).Value;
     std::string& text = Form1.readout(i).Caption;
-    switch (startOf(i).readout) {
+    switch (sliderStart(i).readout) {
         case Readout::Value:
             text = std::to_string(value);
             break;
@@ -141,14 +125,14 @@ void beginThumbDrag(int i, float xTwips) {
 void dragThumb(int i, float xTwips) {
     const Image& track = Form1.VertFiller(i);
     Image& thumb = Form1.VertScroller(i);
-    const double x = static_cast<double>(xTwips) / kTwipsPerPixel;
-    const double along = thumb.Left - track.Left + x;
-    const double place = track.Left + along - ThumbGrab;
-    const double room = track.Width - thumb.Width;
-    thumb.Left = std::clamp(place, track.Left, track.Left + room);
+    const float trackLeft = single(track.Left);
+    const float room = single(track.Width - thumb.Width);
+    const float along = single(thumb.Left) - trackLeft + xTwips / kTwipsPerPixel;
+    const float place = trackLeft + along - static_cast<float>(ThumbGrab);
+    thumb.Left = std::clamp(place, trackLeft, trackLeft + room);
     SliderRecord& record = SliderValues(i);
     record.Value =
-        floorToInt16((thumb.Left - track.Left) / room * (record.Max - record.Min) + record.Min);
+        floorToInt16((thumb.Left - trackLeft) / room * (record.Max - record.Min) + record.Min);
     showReadout(i);
     keepBankWider(i);
 }

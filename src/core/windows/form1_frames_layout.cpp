@@ -1,6 +1,9 @@
 // Form1's layout: the option strip, what stands in its frames, the progress panel.
+#include <cmath>
+
 #include "core/button_numbers.h"
 #include "core/button_table.h"
+#include "core/slider_table.h"
 #include "core/windows/form1_layout.h"
 #include "core/windows/layout.h"
 
@@ -16,6 +19,7 @@ constexpr double kBarLeft = 743;
 constexpr double kArrowSide = 20;
 
 constexpr double kTrackLeft = 88;
+constexpr double kThumbRoom = 116;  // how far a thumb can go, about
 constexpr double kReadoutLeft = 224;
 
 struct SliderPlace {
@@ -121,6 +125,18 @@ void designFrames(Form1Window& form) {
     }
 }
 
+// A press on a thumb reads the value back from its place, and shall find the one that put it there.
+// So a step is a number of units that single precision holds however often it is added. The room
+// is one bit shorter than the steps: the places, rounded to single precision, lie on the steps
+// none the less, and the share of the room that is read from them never falls short of the value's.
+double trackWidth(const SliderStart& slider, double thumbWidth) {
+    constexpr double kPartsOfUnit = 256;
+    constexpr double kOneBit = 1.0 / (1 << 17);
+    const int steps = slider.max - slider.min;
+    const double step = std::floor(kThumbRoom / steps * kPartsOfUnit) / kPartsOfUnit;
+    return step * steps + thumbWidth - kOneBit;
+}
+
 void designSliders(Form1Window& form) {
     for (const SliderPlace& row : kSliders) {
         PictureBox& frame = form.OptFrame(row.frame);
@@ -131,6 +147,7 @@ void designSliders(Form1Window& form) {
         track.Face = {};  // PlaceSlider gives it its picture
         Image& thumb = form.VertScroller.make(row.slider);
         designImage(thumb, "VertScroller", frame, kTrackLeft, row.top, Picture::VertScroller);
+        track.Width = trackWidth(sliderStart(row.slider), thumb.Width);
         thumb.AccessibleName = row.caption;
         thumb.Role = AccessRole::Slider;
         form.readout(row.slider).AccessibleName = row.caption;

@@ -162,8 +162,9 @@ TEST_F(Preferences, two_readouts_follow_their_sliders) {
     EXPECT_EQ(Form1.lblRes.Caption, "7");
     EXPECT_EQ(Form1.lblWidth.Caption, "10");
     EXPECT_EQ(Form1.lblRough.Caption, "1");
-    EXPECT_EQ(Form1.VertScroller(5).Left,
-              Form1.VertFiller(5).Left + Form1.VertFiller(5).Width - Form1.VertScroller(5).Width);
+    EXPECT_NEAR(Form1.VertScroller(5).Left,
+                Form1.VertFiller(5).Left + Form1.VertFiller(5).Width - Form1.VertScroller(5).Width,
+                1e-4);
 }
 
 TEST_F(Preferences, working_colours_without_any_value_reset_the_store_and_not_the_states) {
