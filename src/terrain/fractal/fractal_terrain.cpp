@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
@@ -71,12 +72,12 @@ class HeightLookup {
     }
     std::int16_t operator()(const std::uint8_t* bytes) const {
         return bytes[2] == kThirdByte ? heights_[bytes[0]]
-                                      : heightOf(bytes[0] + bytes[1] + bytes[2], height_);
+                                      : heightOf(bytes[0] + bytes[1] + bytes[2], *height_);
     }
 
   private:
     static constexpr int kThirdByte = 230;
-    int height_ = -1;
+    std::optional<int> height_;  // that heights_ were made for
     std::array<std::int16_t, 256> heights_{};
 };
 

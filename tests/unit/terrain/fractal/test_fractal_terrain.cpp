@@ -125,6 +125,15 @@ TEST_F(FractalTerrain, agrees_with_the_plain_generator_on_every_size) {
     }
 }
 
+// No slider gives such a height; a scenario does.
+TEST_F(FractalTerrain, agrees_with_the_plain_generator_below_the_least_height) {
+    for (const int height : {-1, 0, -2}) {
+        fillUnevenly();
+        compare({65, 5, 1, height, 3});
+        compare({65, 8, 1, height, 3});
+    }
+}
+
 TEST_F(FractalTerrain, agrees_with_the_plain_generator_at_the_other_details) {
     for (const int detail : {2, 4, 6}) {
         compare({193, detail, 7, 110, 5});
