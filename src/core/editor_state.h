@@ -47,6 +47,9 @@ extern CheckedArray<std::int16_t, 0, 600> StrokeX;  // a stroke begins at subscr
 extern CheckedArray<std::int16_t, 0, 600> StrokeY;
 extern std::int16_t StrokeCount;  // next free subscript, 0..600; gestures
 
+// Operations that gestures began inside an import, so far: they are done after it, in this order.
+extern std::int32_t GesturesPutOff;
+
 // Option strip.
 extern std::int16_t PanelGrabY;          // strip units, pointer in a frame drag; option frames
 extern std::int16_t ThumbGrab;           // units, pointer in a thumb drag; sliders

@@ -38,6 +38,7 @@ extern std::int16_t SplashMode;     // 0 start-up splash, 1 About box; Form1's l
 extern std::int16_t ImportAtStart;  // 1 from the choice Import until it has run; size dialog
 extern std::int16_t ImportTarget;   // MapSize that the import sets; import
 extern std::int16_t ImportDirect;   // 1 copies point for point, 0 samples; import
+extern std::int16_t ImportRunning;  // 1 while an import writes the map and refreshes it; import
 extern std::int16_t NewMapPending;  // 1 between New Map's Yes and the unloading; start-up
 extern std::int16_t EggArmed;       // 1 after a double click on the joke; size dialog
 extern std::int16_t BaseHeight;     // height of a new map, 0..255; InitEditor

@@ -62,6 +62,15 @@ class BorrowedBuffer {
     Surface& image_;
 };
 
+// Says to the gestures on the map that they find it being written.
+class RunningImport {
+  public:
+    RunningImport() { ImportRunning = 1; }
+    ~RunningImport() { ImportRunning = 0; }
+    RunningImport(const RunningImport&) = delete;
+    RunningImport& operator=(const RunningImport&) = delete;
+};
+
 std::int16_t heightOfPixel(Pixel pixel) {
     const unsigned sum = ((pixel >> 16U) & 0xFFU) + ((pixel >> 8U) & 0xFFU) + (pixel & 0xFFU);
     return static_cast<std::int16_t>((sum + 1) / 3);  // a third is never half way
@@ -177,6 +186,7 @@ bool importPicture() {
     if (name.empty() || !services().files->isNameTaken(name)) {
         return false;
     }
+    const RunningImport running;
     {
         Surface picture;
         services().pictures->loadPicture(name, picture);

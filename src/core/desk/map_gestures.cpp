@@ -12,7 +12,6 @@
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "panels/hints.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
 #include "views/map2d/magnifier.h"
@@ -92,12 +91,6 @@ void panDrag() {
     DragPixelY = y;
 }
 
-// An import leaves the map enabled while it borrows the back buffer and writes the heights. Until
-// it has ended no gesture begins, and one that was begun ends without its operation.
-bool isMapBusy() {
-    return isNested();
-}
-
 // Ends a drag that stayed beyond an edge, at the cut place scaled back.
 void releaseAt(const EventArgs& args, const Place& place) {
     const Surface& view = Form1.MapView.Canvas;
@@ -129,9 +122,6 @@ void ClampToMap(float& x, float& y, std::int16_t& result) {
 }
 
 void MapView_MouseDown(EventArgs& args) {
-    if (isMapBusy()) {
-        return;
-    }
     const Place place = placeOf(args);
     switchMotionTool(args.Button == MouseButton::Left, args.Button == MouseButton::Right);
     DoubleClickPending = 0;
@@ -174,9 +164,6 @@ void MapView_MouseMove(EventArgs& args) {
         releaseAt(args, place);
     }
     showUnderPointer(place.x, place.y);
-    if (isMapBusy()) {
-        return;
-    }
     if (!moveCanyonTool(place.x, place.y)) {
         return;
     }
@@ -201,11 +188,6 @@ void MapView_MouseMove(EventArgs& args) {
 }
 
 void MapView_MouseUp(EventArgs& args) {
-    if (isMapBusy()) {
-        MouseState = kGestureNone;
-        Form1.Line1.Visible = false;
-        return;
-    }
     Place place = placeOf(args);
     std::int16_t ignored = 0;
     ClampToMap(place.x, place.y, ignored);
@@ -218,7 +200,7 @@ void MapView_MouseUp(EventArgs& args) {
 }
 
 void MapView_DblClick(EventArgs& args) {
-    if (isMapBusy() || !takePanTool()) {
+    if (!takePanTool()) {
         return;
     }
     DoubleClickPending = 1;

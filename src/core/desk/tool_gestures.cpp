@@ -1,11 +1,15 @@
 #include "core/desk/tool_gestures.h"
 
+#include <functional>
+
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/color_ramp.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/progress.h"
 #include "core/windows/form1.h"
+#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "terrain/canyon.h"
 #include "terrain/mountain.h"
@@ -23,6 +27,7 @@ constexpr int kStartsOfLine = 5;  // times that the line's start is stored
 constexpr int kMarkerWidth = 4;
 constexpr Color kMarkerColor = rgb(255, 0, 0);
 constexpr Color kCanyonDot = rgb(255, 255, 255);
+constexpr int kFirstGestureKey = 200;  // of what waits; commands have their numbers below
 
 // Cells back to the scale of MapView.
 float viewX(float x) {
@@ -70,6 +75,37 @@ void beginLine(float x, float y) {
     line.X1 = line.X2 = viewX(x);
     line.Y1 = line.Y2 = viewY(y);
     line.Visible = true;
+}
+
+// The recorded points, which the next gesture overwrites.
+struct RecordedPath {
+    CheckedArray<std::int16_t, 0, 600> x = StrokeX;
+    CheckedArray<std::int16_t, 0, 600> y = StrokeY;
+    std::int16_t count = StrokeCount;
+
+    void bringBack() const {
+        StrokeX = x;
+        StrokeY = y;
+        StrokeCount = count;
+    }
+};
+
+// An import leaves the map enabled while it writes the heights: what a gesture begins in there is
+// done after it, along the path as it was.
+void operate(const std::function<void()>& operation) {
+    if (ImportRunning == 0) {
+        operation();
+        return;
+    }
+    // No import can be stopped, and its refresh shall not be.
+    const std::int16_t stop = StopFlag;
+    putOff(kFirstGestureKey + GesturesPutOff, [operation, path = RecordedPath()] {
+        forgetStop();
+        path.bringBack();
+        operation();
+    });
+    StopFlag = stop;
+    ++GesturesPutOff;
 }
 
 }  // namespace
@@ -147,25 +183,25 @@ bool moveDrawingTools(float x, float y) {
 
 void releaseObjectTools(float x, float y) {
     if (isOn(button::kMountain)) {
-        BuildMountain(floorToInt16(x), floorToInt16(y));
+        operate([=] { BuildMountain(floorToInt16(x), floorToInt16(y)); });
     }
     if (isOn(button::kPlain)) {
-        BuildPlain(floorToInt16(x), floorToInt16(y));
+        operate([=] { BuildPlain(floorToInt16(x), floorToInt16(y)); });
     }
     if (isOn(button::kCanyon)) {
-        CarveCanyon();
+        operate(CarveCanyon);
     }
 }
 
 void releaseDrawingTools(float x, float y) {
     if (isOn(button::kPencil)) {
         pencilDot(x, y);
-        DrawStroke(kPencilStroke);
+        operate([] { DrawStroke(kPencilStroke); });
     }
     if (isOn(button::kLine) && MouseState == kGestureLine) {
         storePoint(StrokeCount, x, y);
         Form1.Line1.Visible = false;
-        DrawStroke(kLineStroke);
+        operate([] { DrawStroke(kLineStroke); });
     }
 }
 

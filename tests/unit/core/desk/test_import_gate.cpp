@@ -107,11 +107,13 @@ TEST_F(ImportGate, what_cannot_run_inside_comes_after_it) {
 }
 
 TEST_F(ImportGate, closing_and_a_confirmed_new_map_wait_for_its_end) {
-    importAnd([] {
+    const auto callsBefore = platform.Calls.size() + 1;  // and the dialog
+    importAnd([&] {
         deliverClose(Form1);
-        EXPECT_TRUE(Form1.Loaded);
+        EXPECT_EQ(platform.Calls.size(), callsBefore);
     });
-    EXPECT_FALSE(Form1.Loaded);
+    EXPECT_EQ(platform.Calls.size(), callsBefore + 1);
+    EXPECT_TRUE(Form1.Loaded);
 
     openEditor(65);
     platform.MessageAnswers.push_back(kAnswerYes);
@@ -124,73 +126,77 @@ TEST_F(ImportGate, closing_and_a_confirmed_new_map_wait_for_its_end) {
     EXPECT_TRUE(SizeSelect.Visible);
 }
 
-TEST_F(ImportGate, gestures_of_every_tool_do_nothing) {
-    for (const int tool : kGestureTools) {
+// The same gesture on a map that was imported before is the second way to the same heights.
+TEST_F(ImportGate, gestures_of_every_tool_do_afterwards_what_they_do_on_the_imported_map) {
+    for (const int tool :
+         {button::kPencil, button::kLine, button::kCanyon, button::kMountain, button::kPlain}) {
+        SCOPED_TRACE(tool);
         openEditor(65);
         choose(tool);
-        const std::int16_t drawHeight = DrawHeight;
+        importAnd([] {});
+        stroke();
+        const HeightGrid wanted = HeightMap;
+
+        openEditor(65);
+        choose(tool);
         importAnd([] {
             const long before = yieldCount();
             stroke();
-            EXPECT_EQ(yieldCount(), before);
+            EXPECT_EQ(yieldCount(), before) << "a long operation began inside the import";
             EXPECT_EQ(MouseState, kGestureNone);
         });
-        SCOPED_TRACE(tool);
-        expectImported();
+        EXPECT_TRUE(HeightMap == wanted);
         EXPECT_FALSE(Form1.Line1.Visible);
-        EXPECT_EQ(DrawHeight, drawHeight);
+        EXPECT_TRUE(Form1.MapView.Enabled);
+        EXPECT_EQ(StopFlag, 0);
     }
 }
 
-TEST_F(ImportGate, a_gesture_that_began_before_ends_without_its_operation) {
-    for (const int tool : kGestureTools) {
+TEST_F(ImportGate, a_gesture_that_began_before_ends_with_its_operation) {
+    for (const int tool : {button::kMountain, button::kPlain}) {
         openEditor(65);
         choose(tool);
         mouse(Event::MouseDown, 20, 20);
         importAnd([] {
             mouse(Event::MouseMove, 60, 70);
-            mouse(Event::MouseMove, 400, 70);  // outside for two moves, which ends a drag
-            mouse(Event::MouseMove, 400, 71);
             mouse(Event::MouseUp, 120, 120);
             EXPECT_EQ(MouseState, kGestureNone);
         });
         SCOPED_TRACE(tool);
-        expectImported();
-        EXPECT_FALSE(Form1.Line1.Visible);
+        EXPECT_EQ(MapSize, kSide);
+        EXPECT_EQ(GesturesPutOff, 1);
     }
 }
 
-TEST_F(ImportGate, the_next_gesture_after_it_works) {
-    choose(button::kPlain);
-    importAnd(stroke);
-    stroke();
-    EXPECT_NE(HeightMap(60, 60), 0);
-    EXPECT_EQ(MouseState, kGestureNone);
-    choose(button::kPencil);
-    DrawHeight = 200;
-    stroke();
-    EXPECT_EQ(HeightMap(35, 40), 200);
+TEST_F(ImportGate, heights_are_picked_and_raised_inside) {
+    choose(button::kColorPicker);
+    importAnd([] { mouse(Event::MouseDown, 20, 20); });
+    EXPECT_EQ(DrawHeight, 90);
+    openEditor(65);
+    choose(button::kRaise);
+    importAnd([] {
+        mouse(Event::MouseDown, 20, 20);
+        mouse(Event::MouseMove, 21, 21);
+        mouse(Event::MouseUp, 21, 21);
+        EXPECT_GT(HeightMap(11, 10), 90);
+    });
 }
 
-TEST_F(ImportGate, zoom_pan_and_double_clicks_do_nothing) {
+TEST_F(ImportGate, zoom_pan_and_swaps_are_heard_and_the_view_is_whole_afterwards) {
     choose(button::kPencil);
-    for (const int tool : {button::kZoom2D, button::kPan2D}) {
-        OptionStates(button::kZoom2D).State = tool == button::kZoom2D ? kOn : kUp;
-        OptionStates(button::kPan2D).State = tool == button::kPan2D ? kOn : kUp;
-        const int zoom = MapZoom;
-        const int pan = MapPanX;
-        importAnd([] {
-            mouse(Event::MouseDown, 20, 20, MouseButton::Right);
-            mouse(Event::MouseMove, 60, 60, MouseButton::Right);
-            mouse(Event::MouseUp, 60, 60, MouseButton::Right);
-            mouse(Event::DblClick, 60, 60);
-        });
-        EXPECT_EQ(MapZoom, zoom);
-        EXPECT_EQ(MapPanX, pan);
-        EXPECT_EQ(OptionStates(tool).State, kOn);
-        EXPECT_EQ(DoubleClickPending, 0);
-        expectImported();
-    }
+    OptionStates(button::kPencil).State = kUp;
+    OptionStates(button::kZoom2D).State = kOn;
+    importAnd([] {
+        mouse(Event::MouseDown, 200, 20);
+        mouse(Event::MouseMove, 220, 60);
+        mouse(Event::MouseUp, 220, 60);
+        EXPECT_EQ(MapZoom, -20);
+        mouse(Event::MouseDown, 60, 60, MouseButton::Right);
+        EXPECT_EQ(OptionStates(button::kPan2D).State, kOn);
+        mouse(Event::MouseUp, 60, 60, MouseButton::Right);
+    });
+    expectImported();
+    EXPECT_EQ(Form1.MapView.Canvas.ScaleWidth, 297);
 }
 
 TEST_F(ImportGate, every_tool_and_view_can_be_pressed) {
