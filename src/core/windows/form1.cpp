@@ -33,12 +33,23 @@ Picture facePicture(int kindNumber) {
     }
 }
 
+void designPointers() {
+    constexpr int kPointers = pictureInfo(Picture::Cursors).faces;
+    for (int i = 0; i < kPointers; ++i) {
+        Image& pointer = Form1.Curs.make(i);
+        designImage(pointer, "Curs", Form1, 0, 0, Picture::Cursors);
+        pointer.Face.face = i;
+        pointer.Visible = false;
+    }
+}
+
 void designForm1() {
     designWindow(Form1, "Form1", "Ombrelia Terrain Editor", kFormWidth, kFormHeight,
                  Picture::Form1Back);
     designDesk(Form1);
     designOptionFrames(Form1);
     designTimer(Form1.Timer1, "Timer1", Form1, 1);
+    designPointers();
 }
 
 }  // namespace

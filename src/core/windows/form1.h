@@ -75,6 +75,10 @@ struct Form1Window : Window {
 
     Timer Timer1;
 
+    // 0..9: pictures for the pointer, one for each number of the cursor hook less one. Nothing
+    // reads them.
+    ControlArray<Image> Curs;
+
     Form1Window();
 
     // Readout of slider 1..14.
