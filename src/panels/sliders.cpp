@@ -117,9 +117,8 @@ void setSlider(int i, int value) {
     }
 }
 
-void beginThumbDrag(int i, float xTwips) {
+void grabThumb(float xTwips) {
     ThumbGrab = roundToInt16(static_cast<double>(xTwips) / kTwipsPerPixel);
-    dragThumb(i, xTwips);
 }
 
 void dragThumb(int i, float xTwips) {

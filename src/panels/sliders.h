@@ -20,7 +20,8 @@ void showReadout(int i);
 void setSlider(int i, int value);
 
 // A drag of the thumb of slider i: the press, then every move; xTwips from the thumb's left edge.
-void beginThumbDrag(int i, float xTwips);
+// The press counts as a move too.
+void grabThumb(float xTwips);
 void dragThumb(int i, float xTwips);
 
 }  // namespace ombrelia

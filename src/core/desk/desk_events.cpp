@@ -103,7 +103,9 @@ void Ground_DragDrop(EventArgs& /*args*/) {
 }
 
 void VertScroller_MouseDown(EventArgs& args) {
-    beginThumbDrag(args.Index, args.X);
+    grabThumb(args.X);
+    args.Button = MouseButton::Left;
+    VertScroller_MouseMove(args);
 }
 
 void VertScroller_MouseMove(EventArgs& args) {

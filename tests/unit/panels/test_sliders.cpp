@@ -48,6 +48,12 @@ class Sliders : public EditorTest {
         PlaceSlider(i);
     }
 
+    static void beginThumbDrag(int i, float xTwips) {
+        EventArgs args;
+        args.X = xTwips;
+        deliver(Form1.VertScroller(i), Event::MouseDown, args);
+    }
+
     // Drags the thumb by pixels, held at its middle.
     static void drag(int i, double pixels) {
         beginThumbDrag(i, 5 * 15);
