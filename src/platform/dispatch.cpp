@@ -160,7 +160,7 @@ void deliverClose(Window& window) {
 void deliverResize(Window& window, int width, int height) {
     window.Width = width;
     window.Height = height;
-    if (window.Ground != nullptr) {
+    if (window.Ground != nullptr && window.handlerOf(Event::Resize) != nullptr) {
         window.Ground->Width = width;
         window.Ground->Height = height;
         window.Ground->makeCanvas();

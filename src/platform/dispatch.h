@@ -45,7 +45,9 @@ void deliverMouse(Control& control, Event event, MouseButton button, const Point
 // alone.
 void deliverClose(Window& window);
 
-// The window got another size, in whole client pixels, or was minimized or brought back.
+// The window got another size, in whole client pixels, or was minimized or brought back. Its ground
+// gets an empty picture of that size if the window has a Resize handler, which draws anew; any
+// other keeps its picture.
 void deliverResize(Window& window, int width, int height);
 void deliverMinimized(Window& window, bool isMinimized);
 

@@ -10,7 +10,9 @@
 #include "mouse_buttons.h"
 #include "names.h"
 #include "platform/dispatch.h"
+#include "platform/exposure.h"
 #include "platform/pointer.h"
+#include "platform/window_life.h"
 #include "ticks.h"
 
 namespace ombrelia::scenario {
@@ -161,8 +163,27 @@ void resize(Session& /*session*/, const Fields& fields) {
     }
 }
 
+void expose(Session& /*session*/, const Fields& fields) {
+    deliverExposure(loadedWindowNamed(fields[0]));
+}
+
+// The editor goes whatever is answered: its Unload, not the wish to close it.
+void closeEditor() {
+    constexpr int kCloseKey = -1;
+    if (isHandling()) {
+        putOff(kCloseKey, [] { unloadWindow(Form1); });
+    } else {
+        runHandler([] { unloadWindow(Form1); });
+    }
+}
+
 void close(Session& /*session*/, const Fields& fields) {
-    deliverClose(loadedWindowNamed(fields[0]));
+    Window& window = loadedWindowNamed(fields[0]);
+    if (&window == &Form1) {
+        closeEditor();
+    } else {
+        deliverClose(window);
+    }
 }
 
 void start(Session& session, const Fields& fields) {
@@ -199,6 +220,7 @@ constexpr Command kCommands[] = {
     {"resize", 3, 3, Acts::OnEditor, resize},
     {"state", 2, 2, Acts::OnEditor, state},
     {"close", 1, 1, Acts::OnEditor, close},
+    {"expose", 1, 1, Acts::OnEditor, expose},
 };
 
 }  // namespace

@@ -94,6 +94,17 @@ TEST(WormWindow, real_keys_steer_the_worm_and_the_map_stays) {
     });
 }
 
+TEST(WormWindow, its_window_has_a_fixed_size) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openGame(driver));
+        driver.inProgram([] {
+            const QWidget* active = QApplication::activeWindow();
+            EXPECT_EQ(active->minimumSize(), active->size());
+            EXPECT_EQ(active->maximumSize(), active->size());
+        });
+    });
+}
+
 TEST(WormWindow, a_key_during_a_fade_comes_after_it) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openGame(driver));

@@ -59,13 +59,18 @@ void layOut() {
     frm3DMaze.Text1.Width = frm3DMaze.Width;
 }
 
+// No picture is drawn before the window is large enough again.
+bool isTooSmall() {
+    return frm3DMaze.Text1.Height * 3 > frm3DMaze.Height;
+}
+
 void resized() {
     if (frm3DMaze.Minimized) {
         Minimized = kMazeYes;
         stopPicture();
         return;
     }
-    if (frm3DMaze.Text1.Height * 3 > frm3DMaze.Height) {
+    if (isTooSmall()) {
         Minimized = kMazeNo;
         stopPicture();
         say("This window is too small!");
@@ -202,6 +207,9 @@ void frm3DMaze_Resize(EventArgs& /*args*/) {
 }
 
 void frm3DMaze_Paint(EventArgs& /*args*/) {
+    if (isTooSmall()) {
+        return;
+    }
     enableMenus(false);
     requestPicture();
     if (TimerRunning == kMazeNo) {
@@ -228,11 +236,13 @@ void VScroll1_Scroll(EventArgs& /*args*/) {
 void frm3DMaze_Timer(EventArgs& /*args*/) {
     frm3DMaze.Timer1.Enabled = false;
     const MazeStyle style = styleInUse();
-    paintSlice(style);
+    if (!isTooSmall()) {
+        paintSlice(style);
+    }
     yieldToEvents();
     if (DrawState == kMazeReady && TimerRunning != kMazeNo) {
         finishPicture(style);
-    } else if (DrawState < kMazeReady) {
+    } else if (DrawState < kMazeReady && !isTooSmall()) {
         frm3DMaze.Timer1.Enabled = true;
     }
 }

@@ -48,6 +48,7 @@ int logical(double units, double logicalPerUnit) {
 
 FrameParts::FrameParts(QWidget& host, Window& window, QtDesktop& desktop)
     : host_(host), window_(window), desktop_(desktop) {
+    sinceMade_.start();
     makeMenus();
     for (Control* control : window.Controls) {
         if (control->Kind == ControlKind::ScrollBar) {
@@ -125,8 +126,13 @@ void FrameParts::place(const QSize& size, double logicalPerUnit) {
                                     .arg(logical(3, logicalPerUnit)));
         menuBar_->ensurePolished();
     }
-    host_.setMinimumWidth(logical(kLeastWidthUnits, logicalPerUnit));
-    host_.resize(size.width(), size.height() + menuHeight());
+    const QSize whole(size.width(), size.height() + menuHeight());
+    if (window_.handlerOf(Event::Resize) == nullptr) {
+        host_.setFixedSize(whole);
+    } else {
+        host_.setMinimumWidth(logical(kLeastWidthUnits, logicalPerUnit));
+        host_.resize(whole);
+    }
     static_cast<void>(host_.winId());  // makes the system's window
     host_.windowHandle()->installEventFilter(this);
 }
@@ -166,8 +172,8 @@ void FrameParts::sync(double logicalPerUnit) {
 bool FrameParts::eventFilter(QObject* watched, QEvent* event) {
     const QWindow* system = host_.windowHandle();
     if (event->type() == QEvent::Expose && system != nullptr && system->isExposed() &&
-        window_.Visible && !window_.Minimized) {
-        desktop_.run([this] { deliver(window_, Event::Paint); });
+        exposures_.isUncovering(host_.width(), host_.height(), sinceMade_.elapsed())) {
+        desktop_.run([this] { deliverExposure(window_); });
     }
     return QObject::eventFilter(watched, event);
 }

@@ -2,11 +2,13 @@
 // events, menu bar and scroll bars. Bars and menus follow the window's record.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <map>
 
 #include "platform/control.h"
+#include "platform/exposure.h"
 
 class QAction;
 
@@ -22,7 +24,8 @@ class FrameParts : public QObject {
     // Height of the menu bar, logical pixels; 0 without menus.
     int menuHeight() const;
 
-    // Gives the host its first size, logical pixels without the menu bar.
+    // Gives the host its first size, logical pixels without the menu bar; a window that does
+    // nothing about another size keeps it.
     void place(const QSize& size, double logicalPerUnit);
 
     // The host has another size: tells the window.
@@ -51,6 +54,8 @@ class FrameParts : public QObject {
     QMenuBar* menuBar_ = nullptr;
     std::map<MenuItem*, QAction*> actions_;
     std::map<ScrollBar*, Bar> bars_;
+    Exposures exposures_;
+    QElapsedTimer sinceMade_;
 };
 
 }  // namespace ombrelia

@@ -351,6 +351,18 @@ TEST_F(Worm, opened_again_while_it_runs_it_goes_on) {
     EXPECT_EQ(HeadX, 5);
 }
 
+TEST_F(Worm, its_surface_keeps_its_picture_whatever_happens_to_the_window) {
+    const Surface& board = Form2.Picture1.Canvas;
+    const int width = board.width();
+    const int x = 16 * CellSize + 5;
+    const int y = 5 * CellSize + 5;
+    const Pixel wall = board.row(y)[x];
+    ASSERT_NE(wall, pixelOf(rgb(0, 0, 0)));
+    deliverResize(Form2, 300, 200);
+    EXPECT_EQ(board.width(), width);
+    EXPECT_EQ(board.row(y)[x], wall);
+}
+
 TEST_F(Worm, opened_after_a_close_it_begins_anew) {
     Level = 4;
     ItemIndex = 16;
