@@ -195,6 +195,10 @@ void SizeSelect_GroundMove(EventArgs& /*args*/) {
     clearSizeHover(-1);
 }
 
+void SizeSelect_TitleMove(EventArgs& /*args*/) {
+    clearSizeHover(-1);
+}
+
 void SizeSelect_JokeMove(EventArgs& /*args*/) {
     SizeSelect.Label2.Caption = kImportLineHovered;
 }
@@ -235,6 +239,12 @@ void Form1_Load(EventArgs& /*args*/) {
 
 void Form1_Unload(EventArgs& /*args*/) {
     ExitEditor();
+}
+
+// Closed from outside: as its own close button does, so that a No leaves everything as it is.
+void Form1_Close(EventArgs& /*args*/) {
+    int close = button::kClose;
+    RunCommand(close);
 }
 
 void StartNewMap() {

@@ -28,10 +28,12 @@ void SizeSelect_ButtonDown(EventArgs& args);
 void SizeSelect_ButtonMove(EventArgs& args);
 void SizeSelect_ButtonUp(EventArgs& args);
 void SizeSelect_GroundMove(EventArgs& args);
+void SizeSelect_TitleMove(EventArgs& args);
 void SizeSelect_JokeMove(EventArgs& args);
 void SizeSelect_JokeDblClick(EventArgs& args);
 void Form1_Load(EventArgs& args);
 void Form1_Unload(EventArgs& args);
+void Form1_Close(EventArgs& args);
 void Title_MouseDown(EventArgs& args);
 
 }  // namespace ombrelia

@@ -1,12 +1,15 @@
+#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/bindings.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "platform/control_events.h"
 #include "terrain/fractal/fractal_state.h"
 
 namespace ombrelia {
@@ -181,6 +184,52 @@ TEST_F(Bindings, names_of_values_are_unique) {
         std::string name(row.name);
         name.append(".").append(row.field);
         EXPECT_TRUE(names.insert(name).second) << name;
+    }
+}
+
+std::string eventOf(const BoundRow& row) {
+    const Control& first = *row.controls.front();
+    return first.Owner->Name + "." + first.Name + ", event " +
+           std::to_string(static_cast<int>(row.event));
+}
+
+TEST_F(Bindings, every_row_binds_a_part_to_an_event_that_it_can_get) {
+    int number = 0;
+    for (const BoundRow& row : boundRows()) {
+        ++number;
+        ASSERT_FALSE(row.controls.empty()) << "row " << number << " binds nothing";
+        for (const Control* control : row.controls) {
+            EXPECT_TRUE(canGet(control->Kind, row.event)) << eventOf(row);
+            EXPECT_NE(control->handlerOf(row.event), nullptr) << eventOf(row);
+            const auto& parts = control->Owner->Controls;
+            EXPECT_TRUE(control == control->Owner ||
+                        std::find(parts.begin(), parts.end(), control) != parts.end())
+                << eventOf(row) << ": no part of its window";
+            if (row.event == Event::AskValue || row.event == Event::SetValue) {
+                EXPECT_EQ(control->Role, AccessRole::Slider) << eventOf(row);
+            }
+        }
+    }
+}
+
+TEST_F(Bindings, no_two_rows_bind_the_same_event) {
+    std::set<std::pair<const Control*, Event>> bound;
+    for (const BoundRow& row : boundRows()) {
+        for (const Control* control : row.controls) {
+            EXPECT_TRUE(bound.emplace(control, row.event).second) << eventOf(row);
+        }
+    }
+}
+
+TEST_F(Bindings, one_part_of_a_window_at_most_takes_its_keys) {
+    for (const Window* window : allWindows()) {
+        const auto& parts = window->Controls;
+        EXPECT_LE(std::count_if(parts.begin(), parts.end(),
+                                [](const Control* part) {
+                                    return part->handlerOf(Event::KeyDown) != nullptr;
+                                }),
+                  1)
+            << window->Name;
     }
 }
 

@@ -283,9 +283,27 @@ TEST_F(Startup, yes_at_the_exit_ends_the_process) {
     EXPECT_EQ(platform.Calls.back(), "end");
 }
 
-TEST_F(Startup, a_closed_editor_goes_away_even_on_no) {
+TEST_F(Startup, an_editor_closed_from_outside_stays_as_it_is_on_no) {
     startWith(80);
+    HeightMap(3, 4) = 77;
     deliverClose(Form1);
+    EXPECT_TRUE(Form1.Loaded);
+    EXPECT_TRUE(Form1.Visible);
+    EXPECT_EQ(HeightMap(3, 4), 77);
+    EXPECT_FALSE(platform.HasEnded);
+    EXPECT_EQ(platform.Calls.back().substr(0, 11), "message 276");
+}
+
+TEST_F(Startup, an_editor_closed_from_outside_ends_on_yes) {
+    startWith(80);
+    platform.MessageAnswers = {kAnswerYes};
+    EXPECT_THROW(deliverClose(Form1), ProcessEnd);
+    EXPECT_EQ(platform.Calls.back(), "end");
+}
+
+TEST_F(Startup, an_unloaded_editor_goes_away_even_on_no) {
+    startWith(80);
+    runHandler([] { unloadWindow(Form1); });
     EXPECT_FALSE(Form1.Loaded);
     EXPECT_FALSE(platform.HasEnded);
     EXPECT_EQ(platform.Calls.back(), "unload Form1");
