@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QWidget>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -162,6 +163,50 @@ TEST(MazeWindow, the_menus_work_by_mouse) {
         EXPECT_TRUE(driver.waitFor([] { return frm3DMaze.mnuStyleItem(1).Checked && isReady(); }));
         choose(driver, kAction, 0);
         EXPECT_TRUE(driver.waitFor([&page] { return isReady() && !(MazePage == page); }));
+    });
+}
+
+TEST(MazeWindow, its_about_box_is_over_it_and_leaves_it_the_keyboard) {
+    constexpr int kHelp = 2;
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openMaze(driver));
+        driver.inProgram([] { mazeWidget()->move(900, 500); });
+        driver.rest(300);
+        choose(driver, kHelp, 0);
+        ASSERT_TRUE(driver.waitForDialog("Ombrelia Terrain Editor"));
+        driver.inProgram([] {
+            const auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+            EXPECT_TRUE(mazeWidget()->frameGeometry().contains(box->frameGeometry().center()));
+            EXPECT_TRUE(box->iconPixmap().isNull());
+        });
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([] {
+            return QApplication::activeModalWidget() == nullptr && mazeWidget()->isActiveWindow();
+        }));
+        ASSERT_TRUE(driver.waitFor(isReady));
+        driver.key("b");
+        EXPECT_TRUE(driver.waitFor([] { return Solved == kMazeYes; }));
+    });
+}
+
+TEST(MazeWindow, too_small_a_page_stays_refused_until_it_is_large_enough) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openMaze(driver));
+        int height = 0;
+        driver.inProgram([&height] {
+            height = mazeWidget()->height();
+            const int menus = mazeWidget()->findChild<QMenuBar*>()->height();
+            mazeWidget()->resize(mazeWidget()->width(), menus + 50);
+        });
+        const auto isRefused = [] {
+            return frm3DMaze.Text1.Caption == "This window is too small!" && isReady();
+        };
+        ASSERT_TRUE(driver.waitFor(isRefused));
+        driver.rest(1000);
+        driver.inProgram([&isRefused] { EXPECT_TRUE(isRefused()); });
+        driver.inProgram([height] { mazeWidget()->resize(mazeWidget()->width(), height); });
+        EXPECT_TRUE(driver.waitFor(
+            [] { return isReady() && frm3DMaze.Text1.Caption == "Use the arrow keys to solve."; }));
     });
 }
 

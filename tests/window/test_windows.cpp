@@ -1,5 +1,8 @@
 // The windows themselves: moving, minimising, closing, asking, coming back.
 #include <QApplication>
+#include <QMessageBox>
+#include <QWidget>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "core/editor_state.h"
@@ -8,6 +11,49 @@
 #include "stories.h"
 
 namespace ombrelia {
+
+namespace {
+
+// The hint frame's widget; none before it was ever seen.
+QWidget* hintWidget() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->windowTitle().toStdString() == HelpFrm.Caption) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+bool isHintSeen() {
+    const QWidget* hint = hintWidget();
+    return hint != nullptr && hint->isVisible() && hint->windowHandle()->isExposed();
+}
+
+// Whether the icon of the open box has the red of the stop light.
+bool hasRedIcon() {
+    const auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+    const QImage icon = box->iconPixmap().toImage();
+    int reds = 0;
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            const QColor color = icon.pixelColor(x, y);
+            reds += color.red() > 180 && color.green() < 130 && color.blue() < 120 ? 1 : 0;
+        }
+    }
+    return reds > icon.width();
+}
+
+// A busy window manager can miss its key.
+bool closeByKey(ScreenDriver& driver, const std::string& question) {
+    bool isAsking = false;
+    for (int i = 0; i < 4 && !isAsking; ++i) {
+        driver.key("alt+F4");
+        isAsking = driver.waitForDialog(question);
+    }
+    return isAsking;
+}
+
+}  // namespace
 
 TEST(Windows, the_title_moves_the_window_and_the_hint_follows) {
     ScreenDriver::run([](ScreenDriver& driver) {
@@ -89,6 +135,47 @@ TEST(Windows, new_map_goes_back_to_the_size_dialog_and_builds_everything_anew) {
             EXPECT_EQ(HeightMap(10, 10), 40);
             EXPECT_EQ(Form1.Label11.Caption, "Ombrelia Terrain Editor - Miniature Map");
         });
+    });
+}
+
+TEST(Windows, closed_by_the_window_manager_the_editor_asks_and_a_no_keeps_everything) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        driver.inProgram([] { HeightMap(10, 10) = 200; });
+        ASSERT_TRUE(closeByKey(driver, "Exit?"));
+        driver.inProgram([] { EXPECT_TRUE(hasRedIcon()); });
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([] { return QApplication::activeModalWidget() == nullptr; }));
+        driver.rest(300);
+        driver.inProgram([] {
+            EXPECT_TRUE(Form1.Loaded);
+            EXPECT_TRUE(Form1.Visible);
+            EXPECT_EQ(HeightMap(10, 10), 200);
+        });
+        EXPECT_TRUE(driver.waitFor(isHintSeen));
+    });
+}
+
+TEST(Windows, the_hint_frame_ends_with_the_editor_and_belongs_to_the_next_one) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeLarge));
+        ASSERT_TRUE(driver.waitFor(isHintSeen));
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kNewMap);
+        ASSERT_TRUE(driver.waitForDialog("Start New Map?"));
+        driver.key("alt+y");
+        ASSERT_TRUE(driver.waitForWindow(SizeSelect));
+        driver.inProgram([] { EXPECT_FALSE(hintWidget()->isVisible()); });
+        driver.click(SizeSelect.NTool(button::kSizeMiniature), 4, 4);
+        ASSERT_TRUE(driver.waitForWindow(Form1));
+        ASSERT_TRUE(driver.waitFor(isHintSeen));
+        driver.inProgram([] {
+            const QWindow* host = hintWidget()->windowHandle()->transientParent();
+            ASSERT_NE(host, nullptr);
+            EXPECT_TRUE(host->isVisible());
+        });
+        driver.click(Form1.NTool(button::kMinimize));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Minimized && !isHintSeen(); }));
     });
 }
 

@@ -77,7 +77,7 @@ void dressApplication(double scale) {
     QApplication::setFont(font);
 }
 
-void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool isQuestion) {
+void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool hasStopIcon) {
     box.setWindowFlag(Qt::FramelessWindowHint);
     box.setStyleSheet(QString(kMessageBoxStyle)
                           .arg(pixels(11, scale))
@@ -86,10 +86,10 @@ void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool isQuestion
                           .arg(pixels(22, scale))
                           .arg(std::max(1, pixels(1, scale)))
                           .arg(pixels(190, scale)));
-    const int side = pixels(kIconUnits, scale);
-    const PictureFace icon =
-        isQuestion ? PictureFace{Picture::ToolHelp, 0} : PictureFace{Picture::Traffic, kStopFace};
-    box.setIconPixmap(QPixmap::fromImage(skin.face(icon, side, side)));
+    if (hasStopIcon) {
+        const int side = pixels(kIconUnits, scale);
+        box.setIconPixmap(QPixmap::fromImage(skin.face({Picture::Traffic, kStopFace}, side, side)));
+    }
 }
 
 }  // namespace ombrelia

@@ -11,7 +11,8 @@ class Skin;
 // are. scale: device pixels to a unit. Cheap after the first call.
 void dressApplication(double scale);
 
-// A message box without a system frame, in the skin's colours, with one of its pictures as icon.
-void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool isQuestion);
+// A message box without a system frame, in the skin's colours; with the light that says stop as
+// icon, or with none.
+void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool hasStopIcon);
 
 }  // namespace ombrelia

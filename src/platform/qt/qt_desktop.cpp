@@ -254,6 +254,12 @@ WindowView* QtDesktop::dialogParent() const {
     return nullptr;
 }
 
+WindowView* QtDesktop::activeGame() const {
+    auto* active = dynamic_cast<WindowView*>(QApplication::activeWindow());
+    return active != nullptr && active->isVisible() && active->window().StandsAlone ? active
+                                                                                    : nullptr;
+}
+
 void QtDesktop::shown(Window& window) {
     WindowView& view = viewOf(window);
     if (window.DockedTo != nullptr) {
@@ -307,6 +313,12 @@ void QtDesktop::unloaded(Window& window) {
     }
     WindowView* view = found->second;
     views_.erase(found);
+    // What docks to it is seen together with it, and belongs to its next view.
+    for (const auto& [other, docked] : views_) {
+        if (other->DockedTo == &window) {
+            docked->hide();
+        }
+    }
     view->hide();
     view->deleteLater();
 }

@@ -74,6 +74,9 @@ class QtDesktop : public Desktop {
     // for dialogs. May be null.
     WindowView* dialogParent() const;
 
+    // The view of the active window if that stands alone; or null.
+    WindowView* activeGame() const;
+
     void shown(Window& window) override;
     void hidden(Window& window) override;
     void unloaded(Window& window) override;

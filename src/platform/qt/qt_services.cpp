@@ -5,7 +5,9 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTime>
+#include <QWindow>
 
 #include "platform/binary_file.h"
 #include "platform/qt/dialog_dress.h"
@@ -18,6 +20,8 @@ namespace {
 
 constexpr int kYesNoButtons = 4;
 constexpr int kButtonMask = 7;
+constexpr int kStopIcon = 16;
+constexpr int kIconMask = 0x70;
 constexpr int kSecondDefault = 256;
 
 // "Name|pattern|Name|pattern" in the toolkit's form.
@@ -31,6 +35,16 @@ QString toolkitFilter(const std::string& filter) {
         entries << name + QStringLiteral(" (") + pattern + QStringLiteral(")");
     }
     return entries.join(QStringLiteral(";;"));
+}
+
+// Puts a box over a game's window and before it, without being its child: the game can end under
+// its box, and would take it along.
+void placeOver(QMessageBox& box, WindowView& game) {
+    static_cast<void>(box.winId());  // makes the system's window
+    box.windowHandle()->setTransientParent(game.windowHandle());
+    box.adjustSize();
+    const QRect place = game.frameGeometry();
+    box.move(place.center() - QPoint(box.width() / 2, box.height() / 2));
 }
 
 }  // namespace
@@ -78,19 +92,27 @@ std::string QtDialogs::askInput(const std::string& prompt, const std::string& ti
 
 int QtDialogs::message(const std::string& text, int style, const std::string& title) {
     dressApplication(desktop_.scale());
-    QMessageBox box(desktop_.dialogParent());
+    const QPointer<WindowView> game = desktop_.activeGame();
+    QMessageBox box(game.isNull() ? desktop_.dialogParent() : nullptr);
     box.setWindowTitle(QString::fromStdString(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(title));
     box.setInformativeText(QString::fromStdString(text));
     const bool isQuestion = (style & kButtonMask) == kYesNoButtons;
-    dressMessageBox(box, desktop_.skin(), desktop_.scale(), isQuestion);
+    dressMessageBox(box, desktop_.skin(), desktop_.scale(), (style & kIconMask) == kStopIcon);
     if (isQuestion) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton((style & kSecondDefault) != 0 ? QMessageBox::No : QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::No);
     }
-    switch (box.exec()) {
+    if (!game.isNull()) {
+        placeOver(box, *game);
+    }
+    const int answer = box.exec();
+    if (!game.isNull()) {
+        game->activateWindow();
+    }
+    switch (answer) {
         case QMessageBox::Yes:
             return kAnswerYes;
         case QMessageBox::No:
