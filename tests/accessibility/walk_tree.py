@@ -10,7 +10,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 TITLE = "Ombrelia Terrain Editor"
 
@@ -32,6 +32,8 @@ READOUTS = ["Thickness: 1", "Amount 130m", "Resolution 4", "Draw Width 1", "Heig
             "Top Size 1", "Size 5", "Smoothness 1", "Height 377m", "Amount 52m", "River Width 3",
             "Bank Width 10", "Detail 5"]
 
+# What was told without being asked: (name, role, state, its value), in order.
+heard = []
 faults = []
 
 
@@ -46,10 +48,12 @@ def wait_for(what, seconds=20):
     while time.monotonic() < end:
         try:
             found = what()
-        except gi.repository.GLib.Error:
+        except GLib.Error:
             found = None
         if found:
             return found
+        while GLib.MainContext.default().iteration(False):
+            pass
         time.sleep(0.1)
     return None
 
@@ -94,6 +98,21 @@ def states(part):
     return part.get_state_set().get_states()
 
 
+def listen():
+    """Hears of states that change; the desktop's events come in with wait_for."""
+    def hear(event):
+        heard.append((event.source.get_name(), event.source.get_role_name(),
+                      event.type.split(":")[-1], event.detail1))
+    listener = Atspi.EventListener.new(hear)
+    for state in ("enabled", "sensitive", "checked"):
+        listener.register(f"object:state-changed:{state}")
+    return listener
+
+
+def check_told(name, role, state, value, words):
+    expect(wait_for(lambda: (name, role, state, value) in heard), words)
+
+
 def press(name, role):
     part = wait_for(lambda: find(name, role))
     expect(part is not None, f"there is no {role} '{name}'")
@@ -122,6 +141,7 @@ def check_states():
     press("Pencil tool", "radio button")
     on = wait_for(lambda: Atspi.StateType.CHECKED in states(find("Pencil tool", "radio button")))
     expect(on, "the pencil is not on after a press")
+    check_told("Pencil tool", "radio button", "checked", 1, "a tool that is on is not told of")
     box = find("River in the middle", "check box")
     before = Atspi.StateType.CHECKED in states(box)
     press("River in the middle", "check box")
@@ -141,13 +161,16 @@ def check_slider():
 def check_generate():
     press("Fractal Terrain tool", "radio button")
     press("Generate", "push button")
+    check_told("Line tool", "radio button", "enabled", 0, "a disabled tool is not told of")
     done = wait_for(lambda: any(part.get_name().startswith(("Generating Fractal", "Updating View"))
                                 for part in parts(program())))
     expect(done, "nothing is generated")
+    check_told("Line tool", "radio button", "enabled", 1, "a tool enabled again is not told of")
 
 
 def main():
     Atspi.init()
+    listener = listen()  # noqa: F841  heard as long as it lives
     editor = subprocess.Popen([sys.argv[1]])
     try:
         expect(wait_for(program), "the editor is not known")

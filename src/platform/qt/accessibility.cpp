@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <map>
+#include <utility>
 
 #include "platform/dispatch.h"
 #include "platform/pointer.h"
@@ -69,7 +70,8 @@ class ControlAccess : public QAccessibleInterface,
                       public QAccessibleActionInterface,
                       public QAccessibleValueInterface {
   public:
-    ControlAccess(WindowView& view, Control& control) : view_(&view), control_(control) {}
+    ControlAccess(WindowView& view, Control& control)
+        : view_(&view), control_(control), told_(state()) {}
 
     bool isValid() const override { return !view_.isNull() && view_->window().Loaded; }
     QObject* object() const override { return nullptr; }
@@ -125,6 +127,17 @@ class ControlAccess : public QAccessibleInterface,
         return state;
     }
 
+    // Tells of every state that differs from what was told last: in an event of its own, since an
+    // event of several is passed on as one of its first.
+    void tellStates() {
+        const QAccessible::State now = state();
+        const QAccessible::State before = std::exchange(told_, now);
+        tellState(now.checked != before.checked, [](QAccessible::State& s) { s.checked = true; });
+        tellState(now.pressed != before.pressed, [](QAccessible::State& s) { s.pressed = true; });
+        tellState(now.disabled != before.disabled,
+                  [](QAccessible::State& s) { s.disabled = true; });
+    }
+
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ActionInterface && canBePressed(control_)) {
             return static_cast<QAccessibleActionInterface*>(this);
@@ -157,6 +170,16 @@ class ControlAccess : public QAccessibleInterface,
     }
 
   private:
+    template <typename Mark>
+    void tellState(bool isChanged, Mark mark) {
+        if (isChanged) {
+            QAccessible::State changed;
+            mark(changed);
+            QAccessibleStateChangeEvent event(this, changed);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+
     EventArgs ask() const {
         EventArgs args;
         raise(control_, Event::AskValue, args);
@@ -169,6 +192,7 @@ class ControlAccess : public QAccessibleInterface,
 
     QPointer<WindowView> view_;
     Control& control_;
+    QAccessible::State told_;
 };
 
 class WindowAccess : public QAccessibleWidget {
@@ -211,10 +235,10 @@ class WindowAccess : public QAccessibleWidget {
         return nullptr;
     }
 
-    QAccessibleInterface* of(Control& control) const {
+    ControlAccess* of(Control& control) const {
         const auto found = ids_.find(&control);
         if (found != ids_.end()) {
-            return QAccessible::accessibleInterface(found->second);
+            return static_cast<ControlAccess*>(QAccessible::accessibleInterface(found->second));
         }
         auto* made = new ControlAccess(view_, control);
         ids_[&control] = QAccessible::registerAccessibleInterface(made);
@@ -255,24 +279,15 @@ void announceChange(WindowView& view, Control& control) {
     if (window == nullptr) {
         return;
     }
-    QAccessibleInterface* access = window->of(control);
-    const auto tell = [&](QAccessible::Event kind) {
-        QAccessibleEvent event(access, kind);
-        QAccessible::updateAccessibility(&event);
-    };
+    ControlAccess* access = window->of(control);
     if (roleOf(control) == QAccessible::StaticText) {
-        tell(QAccessible::NameChanged);
+        QAccessibleEvent event(access, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
     } else if (roleOf(control) == QAccessible::Slider) {
         QAccessibleValueChangeEvent event(access, access->text(QAccessible::Value));
         QAccessible::updateAccessibility(&event);
-    } else {
-        QAccessible::State changed;
-        changed.checked = true;
-        changed.pressed = true;
-        changed.disabled = true;
-        QAccessibleStateChangeEvent event(access, changed);
-        QAccessible::updateAccessibility(&event);
     }
+    access->tellStates();
 }
 
 }  // namespace ombrelia
