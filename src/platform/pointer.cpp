@@ -1,5 +1,6 @@
 #include "platform/pointer.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/dispatch.h"
@@ -224,9 +225,13 @@ void keyInput(Window& window, int keyCode) {
     if (!window.Loaded) {
         return;
     }
+    const auto taker =
+        std::find_if(window.Controls.begin(), window.Controls.end(), [](const Control* part) {
+            return part->handlerOf(Event::KeyDown) != nullptr && isEnabled(*part) && isShown(*part);
+        });
     EventArgs args;
     args.KeyCode = keyCode;
-    deliver(window, Event::KeyDown, args);
+    deliver(taker == window.Controls.end() ? window : **taker, Event::KeyDown, args);
 }
 
 void forgetPress() {

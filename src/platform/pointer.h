@@ -52,7 +52,9 @@ void deliverDrag(Control& onto, Event event, Control& dragged);
 // releases and goes. Nothing while a button is held or if the part is disabled.
 void pressWithoutPointer(Control& control);
 
-// A key with this virtual code went down in the window that has the keyboard.
+// A key with this virtual code went down in the window that has the keyboard. It goes to the part
+// that takes the window's keys, if one can be seen, is enabled and has a KeyDown handler, else to
+// the window itself.
 void keyInput(Window& window, int keyCode);
 
 // The press that is being held counts no longer: its release is not to come.

@@ -241,10 +241,6 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {
-    if (window_.handlerOf(Event::KeyDown) == nullptr) {
-        QWidget::keyPressEvent(event);
-        return;
-    }
     desktop_.input([&window = window_, code = virtualKeyOf(*event)] { keyInput(window, code); });
 }
 

@@ -370,6 +370,23 @@ TEST_F(Pointer, a_press_without_the_pointer_comes_and_goes) {
     EXPECT_EQ(events.size(), 5U);
 }
 
+TEST_F(Pointer, keys_go_to_the_part_that_takes_them_and_else_to_the_window) {
+    const Handler key = [](EventArgs& args) {
+        events.push_back(args.Source->Name + " " + std::to_string(args.KeyCode));
+    };
+    constexpr auto kKeyDown = static_cast<std::size_t>(Event::KeyDown);
+    window.On[kKeyDown] = key;
+    keyInput(window, 37);
+    surface.On[kKeyDown] = key;
+    keyInput(window, 38);
+    surface.Visible = false;
+    keyInput(window, 39);
+    surface.Visible = true;
+    surface.Enabled = false;
+    keyInput(window, 40);
+    EXPECT_EQ(events, (Log{"window 37", "surface 38", "window 39", "window 40"}));
+}
+
 TEST_F(Pointer, a_press_without_the_pointer_waits_for_no_held_button) {
     press(70, 20);
     pressWithoutPointer(face);
