@@ -33,6 +33,9 @@ void UserPointer::moveTo(Window& window, double x, double y) {
     }
     Window& hearing = pressedIn_ == nullptr ? window : *pressedIn_;
     spot_ = spotIn(hearing, x + window.Left - hearing.Left, y + window.Top - hearing.Top);
+    if (firstPress_ != spot_) {
+        firstPress_.reset();
+    }
     if (over_ != nullptr && over_ != &hearing) {
         Window& left = *over_;
         over_ = nullptr;
@@ -43,6 +46,7 @@ void UserPointer::moveTo(Window& window, double x, double y) {
 }
 
 void UserPointer::moveAway() {
+    firstPress_.reset();
     if (pressedIn_ != nullptr) {
         spot_ = Spot{pressedIn_, -1, -1};
         send(*pressedIn_, PointerKind::Move, *spot_, MouseButton::None);

@@ -62,6 +62,7 @@ class UserPointer {
     Window* over_ = nullptr;       // the window that thinks the pointer is over it
     Window* pressedIn_ = nullptr;  // the window that has the pointer while a button is held
     std::set<MouseButton> held_;
+    // Until the pointer moves.
     std::optional<Spot> firstPress_;  // where a second press makes a double click
     MouseButton firstButton_ = MouseButton::None;
     std::vector<Window*> keyboard_;  // windows that had the keyboard, the last one behind

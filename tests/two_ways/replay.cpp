@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QStyleHints>
 #include <QWindow>
+#include <utility>
 
 #include "core/windows/form1.h"
 #include "core/windows/form2.h"
@@ -30,7 +31,7 @@ struct Slot {
     int left, top;
 };
 const Slot kSlots[] = {
-    {&Form1, 10, 10},        {&HelpBox, 10, 900},  {&SizeSelect, 2200, 10},
+    {&Form1, 10, 110},       {&HelpBox, 10, 900},  {&SizeSelect, 2200, 10},
     {&frmSplash, 2200, 700}, {&Form3, 2200, 1400}, {&frm3DMaze, 2200, 1700},
     {&Form2, 1400, 1700},
 };
@@ -92,16 +93,22 @@ void Replay::begin() {
     lost_.clear();
     inside_ = nullptr;
     input_.moveTo(kNowhere);
+    place_ = kNowhere;
     for (const MouseButton button : {MouseButton::Left, MouseButton::Middle, MouseButton::Right}) {
         input_.changeButton(buttonNumber(button), false);
     }
     QCoreApplication::processEvents();
-    screen_.reset();  // and all windows with it
+    screen_.reset();
     session_ = std::make_unique<scenario::Session>();
     session_->tellsFailures = true;
     session_->passesOverErrors = true;
     session_->pointer.onPointer = [this](Window& window, double /*scale*/,
                                          const PointerInput& input) { pointer(window, input); };
+    openScreen();
+}
+
+void Replay::openScreen() {
+    screen_.reset();  // and all windows with it
     screen_ = std::make_unique<Screen>(session_->platform);
     const QSize size = QGuiApplication::primaryScreen()->availableSize();
     screen_->chooseScale(size.width() / scale_, size.height() / scale_ / 2);
@@ -110,9 +117,14 @@ void Replay::begin() {
 
 bool Replay::run(const std::string& line) {
     try {
+        if (line.starts_with("start") || line == "restart") {
+            openScreen();
+        }
         session_->runLine(line);
     } catch (const scenario::LineError& error) {
         lost_ += line + ": " + error.sentence + "; ";
+    } catch (const scenario::ExpectFailed& failure) {
+        lost_ += line + ": " + failure.sentence + "; ";
     } catch (const HandlerFailed& failure) {
         lost_ += line + ": " + failure.sentence + "; ";
     }
@@ -184,6 +196,7 @@ bool Replay::eventFilter(QObject* target, QEvent* event) {
 
 void Replay::leave(WindowView& view) {
     input_.moveTo(kNowhere);
+    place_ = kNowhere;
     await("the pointer's leaving", [&] { return inside_ != &view; });
 }
 
@@ -210,8 +223,11 @@ void Replay::pointer(Window& window, const PointerInput& input) {
     }
     if (input.kind == PointerKind::Move) {
         const long before = seen_[QEvent::MouseMove];
-        const QPoint inside(static_cast<int>(input.x), static_cast<int>(input.y));
-        input_.moveTo(corner + inside);
+        const QPoint place = corner + QPoint(static_cast<int>(input.x), static_cast<int>(input.y));
+        if (std::exchange(place_, place) == place) {
+            return;  // a screen says nothing of a pointer that stays
+        }
+        input_.moveTo(place);
         await("a move", [&] { return seen_[QEvent::MouseMove] > before; });
         return;
     }

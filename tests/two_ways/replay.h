@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
 #include <map>
 #include <memory>
 #include <string>
@@ -47,6 +48,7 @@ class Replay : public QObject {
 
     void pointer(Window& window, const PointerInput& input);
     void leave(WindowView& view);
+    void openScreen();
     WindowView* viewOf(const Window& window) const;
     bool waitUntil(const std::function<bool()>& holds);
     bool await(const char* what, const std::function<bool()>& holds);
@@ -55,6 +57,7 @@ class Replay : public QObject {
     std::unique_ptr<Screen> screen_;
     XInput input_;
     double scale_ = 1;
+    QPoint place_;                     // of the pointer on the screen
     std::map<int, long> seen_;         // events that arrived, by kind
     const QObject* inside_ = nullptr;  // the view that the pointer is in
     std::string lost_;

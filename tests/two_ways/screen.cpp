@@ -1,14 +1,17 @@
 // The screen's way of strings of pointer events, held against the headless one: real windows, real
 // events of an X server, the same lines; after each line the state must be the same.
-//   two_ways_screen MODEL SECONDS FIRST_SEED FOLDER SCALE ...
+//   two_ways_screen MODEL FOLDER play FILE ...                  scenarios, at scale 1
+//   two_ways_screen MODEL FOLDER chance SECONDS SEED SCALE ...  strings by chance
 // MODEL is the program of the headless way. A string that differs is cut down and left in FOLDER as
 // a scenario. Status 1 at a difference.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
-#include <sstream>
+#include <string>
+#include <vector>
 
 #include "replay.h"
 #include "state_text.h"
@@ -60,27 +63,38 @@ class Comparison {
     Comparison(Replay& replay, std::string model, std::string folder)
         : replay_(replay), model_(std::move(model)), folder_(std::move(folder)) {}
 
-    // True if the string leaves the same state both ways.
-    bool compare(const std::string& scale, long seed) {
-        const std::vector<Played> expected =
-            playedBy(model_ + " make " + std::to_string(seed) + " " +
-                     std::to_string(kLinesOfAString) + " " + scale);
+    // True if the string of this seed leaves the same state both ways.
+    bool compareChance(const std::string& scale, long seed) {
+        replay_.takeScale(std::stod(scale));
+        const std::string number = std::to_string(seed);
+        return compare(playedBy(model_ + " make " + number + " " + std::to_string(kLinesOfAString) +
+                                " " + scale),
+                       "seed_" + number + "_scale_" + scale);
+    }
+
+    bool compareFile(const std::string& path) {
+        return compare(playedBy(model_ + " play " + path), path.substr(path.find_last_of('/') + 1));
+    }
+
+    long lines() const { return lines_; }
+    long strings() const { return strings_; }
+
+  private:
+    bool compare(const std::vector<Played>& expected, const std::string& name) {
         lines_ += static_cast<long>(expected.size());
+        ++strings_;
         const std::size_t differs = firstDifference(expected);
         if (differs == expected.size()) {
-            return true;
+            return differs > 0;
         }
         std::vector<std::string> lines;
         for (std::size_t i = 0; i <= differs; ++i) {
             lines.push_back(expected[i].line);
         }
-        report(shortened(std::move(lines)), seed, scale);
+        report(shortened(std::move(lines)), name);
         return false;
     }
 
-    long lines() const { return lines_; }
-
-  private:
     // The place of the first line after which the two ways differ; the size if they never do.
     std::size_t firstDifference(const std::vector<Played>& expected) {
         replay_.begin();
@@ -127,16 +141,15 @@ class Comparison {
         return lines;
     }
 
-    void report(const std::vector<std::string>& lines, long seed, const std::string& scale) {
-        const std::string path =
-            write(lines, "differs_" + std::to_string(seed) + "_" + scale + ".txt");
+    void report(const std::vector<std::string>& lines, const std::string& name) {
+        const std::string path = write(lines, "differs_" + name + ".txt");
         const std::vector<std::string> expected = outputOf(model_ + " state " + path);
         replay_.begin();
         for (const std::string& line : lines) {
             replay_.run(line);
         }
         const std::vector<std::string> found = stateLines(replay_.session());
-        std::cout << "seed " << seed << " differs at scale " << scale << "; left in " << path
+        std::cout << name << " differs; left in " << path
                   << (replay_.lost().empty() ? "" : "; lost: " + replay_.lost()) << '\n';
         for (std::size_t i = 0; i < std::max(expected.size(), found.size()); ++i) {
             const std::string wanted = i < expected.size() ? expected[i] : "nothing";
@@ -151,31 +164,44 @@ class Comparison {
     std::string model_;
     std::string folder_;
     long lines_ = 0;
+    long strings_ = 0;
 };
 
-int run(int count, char** words) {
-    if (count < 6) {
-        std::cerr << "two_ways_screen MODEL SECONDS FIRST_SEED FOLDER SCALE ...\n";
-        return 2;
-    }
-    const std::vector<std::string> scales(words + 5, words + count);
-    const qint64 milliseconds = std::atoll(words[2]) * 1000;
-    Replay replay;
-    Comparison comparison(replay, words[1], words[4]);
+// How many of the strings differ.
+long playFiles(Comparison& comparison, const std::vector<std::string>& files) {
+    return std::count_if(files.begin(), files.end(),
+                         [&](const std::string& file) { return !comparison.compareFile(file); });
+}
+
+long playChance(Comparison& comparison, const std::vector<std::string>& words) {
+    const qint64 milliseconds = std::stoll(words[0]) * 1000;
+    const long first = std::stol(words[1]);
+    const std::size_t scales = words.size() - 2;
+    long differing = 0;
     QElapsedTimer time;
     time.start();
-    long seed = std::atol(words[3]);
-    long strings = 0;
-    long differing = 0;
-    for (; time.elapsed() < milliseconds; ++seed) {
-        const std::string& scale = scales[static_cast<std::size_t>(strings) % scales.size()];
-        replay.takeScale(std::stod(scale));
-        differing += comparison.compare(scale, seed) ? 0 : 1;
-        ++strings;
+    for (std::size_t n = 0; !time.hasExpired(milliseconds); ++n) {
+        const std::string& scale = words[2 + n % scales];
+        differing += comparison.compareChance(scale, first + static_cast<long>(n)) ? 0 : 1;
     }
-    std::cout << comparison.lines() << " lines in " << strings << " strings, " << differing
-              << " differ" << std::endl;
-    return differing == 0 && strings > 0 ? 0 : 1;
+    return differing;
+}
+
+int run(const std::vector<std::string>& words) {
+    const bool isChance = words.size() > 5 && words[2] == "chance";
+    if (!isChance && (words.size() < 4 || words[2] != "play")) {
+        std::cerr
+            << "two_ways_screen MODEL FOLDER play FILE ..., or chance SECONDS SEED SCALE ...\n";
+        return 2;
+    }
+    Replay replay;
+    Comparison comparison(replay, words[0], words[1]);
+    const std::vector<std::string> behind(words.begin() + 3, words.end());
+    const long differing =
+        isChance ? playChance(comparison, behind) : playFiles(comparison, behind);
+    std::cout << comparison.lines() << " lines in " << comparison.strings() << " strings, "
+              << differing << " differ" << std::endl;
+    return differing == 0 && comparison.lines() > 0 ? 0 : 1;
 }
 
 }  // namespace
@@ -185,5 +211,5 @@ int run(int count, char** words) {
 int main(int count, char** words) {
     QApplication application(count, words);
     QApplication::setQuitOnLastWindowClosed(false);
-    return ombrelia::two_ways::run(count, words);
+    return ombrelia::two_ways::run({words + 1, words + count});
 }
