@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <functional>
+#include <utility>
 
 #include "core/desk/button_events.h"
 #include "core/desk/desk_events.h"
@@ -213,8 +214,9 @@ const std::vector<ValueRow>& allValues() {
 std::vector<BoundRow> boundRows() {
     std::vector<BoundRow> rows;
     for (const Binding& row : kBindings) {
-        std::vector<Control*>& controls = rows.emplace_back(row.event).controls;
-        row.visitAll(row.part, [&controls](Control& control) { controls.push_back(&control); });
+        BoundRow bound{row.event, {}};
+        row.visitAll(row.part, [&bound](Control& control) { bound.controls.push_back(&control); });
+        rows.push_back(std::move(bound));
     }
     return rows;
 }
