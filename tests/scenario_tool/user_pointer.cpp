@@ -32,7 +32,11 @@ void UserPointer::moveTo(Window& window, double x, double y) {
         throw LineError{window.Name + " cannot be seen"};
     }
     Window& hearing = pressedIn_ == nullptr ? window : *pressedIn_;
-    spot_ = spotIn(hearing, x + window.Left - hearing.Left, y + window.Top - hearing.Top);
+    const Spot spot = spotIn(hearing, x + window.Left - hearing.Left, y + window.Top - hearing.Top);
+    if (keepsToWindow && (&hearing != &window || (pressedIn_ == nullptr && !isInside(spot)))) {
+        throw LineError{"this place is not in " + hearing.Name};
+    }
+    spot_ = spot;
     if (firstPress_ != spot_) {
         firstPress_.reset();
     }
@@ -103,12 +107,14 @@ void UserPointer::leaveIfOutside() {
     if (!spot_ || over_ == nullptr) {
         return;
     }
-    const Window& window = *over_;
-    const bool isInside = spot_->x >= 0 && spot_->y >= 0 && spot_->x < window.Width * scale_ &&
-                          spot_->y < window.Height * scale_;
-    if (!isInside) {
+    if (!isInside(*spot_)) {
         moveAway();
     }
+}
+
+bool UserPointer::isInside(const Spot& spot) const {
+    return spot.x >= 0 && spot.y >= 0 && spot.x < spot.window->Width * scale_ &&
+           spot.y < spot.window->Height * scale_;
 }
 
 void UserPointer::key(int code) {

@@ -19,6 +19,10 @@ class UserPointer {
     std::function<void(Window&, double scale, const PointerInput&)> onPointer = pointerInput;
     std::function<void(Window&, int code)> onKey = keyInput;
 
+    // Refuses a place that on a screen would be another window's: beyond the window, or in another
+    // one than the one that keeps the pointer.
+    bool keepsToWindow = false;
+
     // Device pixels to a unit, from here on; above 0.
     void setScale(double scale) { scale_ = scale; }
 
@@ -54,6 +58,7 @@ class UserPointer {
 
     void send(Window& window, PointerKind kind, const Spot& spot, MouseButton button);
     void leaveIfOutside();
+    bool isInside(const Spot& spot) const;
     Spot spotIn(Window& window, double x, double y) const;
     bool isOverWindow() const;
 

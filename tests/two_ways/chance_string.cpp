@@ -101,10 +101,10 @@ class Maker {
             x = corner.x + chance_.between(-1, static_cast<int>(part.Width));
             y = corner.y + chance_.between(-1, static_cast<int>(part.Height));
         }
-        if (!isHeld) {  // a place beyond the window is another's
-            x = std::min(std::max(x, 0.0), window.Width - 1);
-            y = std::min(std::max(y, 0.0), window.Height - 1);
-        }
+        // A place far beyond the window is another's, one on its right the hint frame's.
+        const double beyond = isHeld ? kBeyond : 0;
+        x = std::min(std::max(x, -beyond), window.Width - 1);
+        y = std::min(std::max(y, -beyond), window.Height - 1 + beyond);
         x += chance_.below(4) / 4.0;
         std::ostringstream device;
         device << window.Name << ' ' << std::floor(x * scale_) << ' ' << std::floor(y * scale_);

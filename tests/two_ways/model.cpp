@@ -36,6 +36,7 @@ int run(int count, char** words) {
     scenario::Session session;
     session.tellsFailures = true;
     session.passesOverErrors = true;
+    session.pointer.keepsToWindow = true;
     const std::string what = count > 2 ? words[1] : "";
     try {
         if (what == "make" && count == 5) {

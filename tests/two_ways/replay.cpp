@@ -21,7 +21,7 @@ namespace ombrelia::two_ways {
 
 namespace {
 
-constexpr int kPatienceMilliseconds = 5000;
+constexpr int kPatienceMilliseconds = 20000;
 constexpr int kFarDoubleClick = 100000;
 
 // Places on a screen of 4000 x 3000 at which no two windows cover each other at scale 2, and no new
@@ -90,18 +90,19 @@ void Replay::takeScale(double scale) {
 }
 
 void Replay::begin() {
-    lost_.clear();
     inside_ = nullptr;
     input_.moveTo(kNowhere);
     place_ = kNowhere;
     for (const MouseButton button : {MouseButton::Left, MouseButton::Middle, MouseButton::Right}) {
         input_.changeButton(buttonNumber(button), false);
     }
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();  // the end of whatever the last session was at
     screen_.reset();
+    lost_.clear();
     session_ = std::make_unique<scenario::Session>();
     session_->tellsFailures = true;
     session_->passesOverErrors = true;
+    session_->pointer.keepsToWindow = true;
     session_->pointer.onPointer = [this](Window& window, double /*scale*/,
                                          const PointerInput& input) { pointer(window, input); };
     openScreen();

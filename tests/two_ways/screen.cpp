@@ -91,7 +91,11 @@ class Comparison {
         for (std::size_t i = 0; i <= differs; ++i) {
             lines.push_back(expected[i].line);
         }
-        report(shortened(std::move(lines)), name);
+        const std::string path = write(lines, "differs_" + name + ".txt");
+        std::cout << name << " differs at \"" << lines.back() << "\"; lost: " << replay_.lost()
+                  << "; is left, cut down, in " << path << std::endl;
+        tellDifference(path);
+        write(shortened(std::move(lines)), "differs_" + name + ".txt");
         return false;
     }
 
@@ -141,16 +145,10 @@ class Comparison {
         return lines;
     }
 
-    void report(const std::vector<std::string>& lines, const std::string& name) {
-        const std::string path = write(lines, "differs_" + name + ".txt");
-        const std::vector<std::string> expected = outputOf(model_ + " state " + path);
-        replay_.begin();
-        for (const std::string& line : lines) {
-            replay_.run(line);
-        }
+    // The state as it is now on the screen, beside the one that the lines of a file leave.
+    void tellDifference(const std::string& path) {
         const std::vector<std::string> found = stateLines(replay_.session());
-        std::cout << name << " differs; left in " << path
-                  << (replay_.lost().empty() ? "" : "; lost: " + replay_.lost()) << '\n';
+        const std::vector<std::string> expected = outputOf(model_ + " state " + path);
         for (std::size_t i = 0; i < std::max(expected.size(), found.size()); ++i) {
             const std::string wanted = i < expected.size() ? expected[i] : "nothing";
             const std::string got = i < found.size() ? found[i] : "nothing";
