@@ -40,7 +40,7 @@ bool canGet(ControlKind kind, Event event) {
             return event == Event::Click;
         case ControlKind::TextLine:
         case ControlKind::Line:
-            return false;
+            break;
     }
     return false;
 }

@@ -2,6 +2,7 @@
 
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/slider_table.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
 #include "panels/sliders.h"
@@ -92,6 +93,13 @@ TEST_F(Sliders, a_wished_river_keeps_the_bank_wider) {
 TEST_F(Sliders, a_wished_place_of_the_strip_moves_the_frames) {
     setSlider(0, 128);
     EXPECT_EQ(Form1.OptFrame(1).Top, 0);
+}
+
+TEST_F(Sliders, only_1_to_14_have_a_row) {
+    EXPECT_EQ(sliderStart(1).number, 1);
+    EXPECT_EQ(sliderStart(14).number, 14);
+    EXPECT_THROW(sliderStart(0), MissingPartFailure);
+    EXPECT_THROW(sliderStart(15), MissingPartFailure);
 }
 
 TEST_F(Sliders, start_as_the_table_says) {

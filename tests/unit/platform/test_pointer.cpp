@@ -385,6 +385,9 @@ TEST_F(Pointer, keys_go_to_the_part_that_takes_them_and_else_to_the_window) {
     surface.Enabled = false;
     keyInput(window, 40);
     EXPECT_EQ(events, (Log{"window 37", "surface 38", "window 39", "window 40"}));
+    window.Loaded = false;
+    keyInput(window, 41);
+    EXPECT_EQ(events.size(), 4U);
 }
 
 TEST_F(Pointer, a_press_without_the_pointer_waits_for_no_held_button) {
