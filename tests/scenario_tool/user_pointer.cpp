@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/bindings.h"
 #include "errors.h"
 
 namespace ombrelia::scenario {
@@ -102,14 +103,23 @@ void UserPointer::release(MouseButton button) {
     }
 }
 
-// A pointer that was kept by a held button is free now.
+// A pointer that a held button kept is free now: it is over the window docked there, or away.
 void UserPointer::leaveIfOutside() {
-    if (!spot_ || over_ == nullptr) {
+    if (!spot_ || over_ == nullptr || isInside(*spot_)) {
         return;
     }
-    if (!isInside(*spot_)) {
-        moveAway();
+    const Window& left = *spot_->window;
+    const double x = spot_->x / scale_ + left.Left;
+    const double y = spot_->y / scale_ + left.Top;
+    for (Window* window : allWindows()) {
+        const bool isBeside = window->DockedTo == &left || left.DockedTo == window;
+        if (isBeside && isSeen(*window) &&
+            isInside(spotIn(*window, x - window->Left, y - window->Top))) {
+            moveTo(*window, x - window->Left, y - window->Top);
+            return;
+        }
     }
+    moveAway();
 }
 
 bool UserPointer::isInside(const Spot& spot) const {

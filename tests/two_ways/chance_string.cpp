@@ -101,9 +101,12 @@ class Maker {
             x = corner.x + chance_.between(-1, static_cast<int>(part.Width));
             y = corner.y + chance_.between(-1, static_cast<int>(part.Height));
         }
-        // A place far beyond the window is another's, one on its right the hint frame's.
+        // A place far beyond the window is another's, one on its right the hint frame's, one on the
+        // left of the hint frame the editor's, which the frame's record knows from a tick on.
         const double beyond = isHeld ? kBeyond : 0;
-        x = std::min(std::max(x, -beyond), window.Width - 1);
+        const Window* host = window.DockedTo;
+        const bool isPlaced = host == nullptr || window.Left == host->Left + host->Width;
+        x = std::min(std::max(x, isPlaced ? -beyond : 0), window.Width - 1);
         y = std::min(std::max(y, -beyond), window.Height - 1 + beyond);
         x += chance_.below(4) / 4.0;
         std::ostringstream device;
