@@ -200,7 +200,7 @@ void restart(Session& session, const Fields& /*none*/) {
     session.startProcess();
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kDrivingCommands[] = {
     {"start", 0, 1, Acts::Anywhere, start},
     {"restart", 0, 0, Acts::Anywhere, restart},
     {"press", 4, 4, Acts::OnEditor, mouse<Event::MouseDown>},
@@ -232,7 +232,7 @@ void fireTimer(Timer& timer) {
 }
 
 std::span<const Command> drivingCommands() {
-    return kCommands;
+    return kDrivingCommands;
 }
 
 }  // namespace ombrelia::scenario

@@ -63,7 +63,7 @@ void dump(Session& session, const Fields& fields) {
     }
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kLookCommands[] = {
     {"get", 1, 1, Acts::Anywhere, get},
     {"expect", 2, 2, Acts::Anywhere, expect},
     {"dump", 2, 3, Acts::Anywhere, dump},
@@ -72,7 +72,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 std::span<const Command> lookCommands() {
-    return kCommands;
+    return kLookCommands;
 }
 
 }  // namespace ombrelia::scenario

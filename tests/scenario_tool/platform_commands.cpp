@@ -124,7 +124,7 @@ void queueAnswer(Session& session, const Fields& fields) {
     row->queue(session, fields[1]);
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kPlatformCommands[] = {
     {"random", 1, kAnyNumber, Acts::Anywhere, queueRandom},
     {"random-lcg", 1, 1, Acts::Anywhere, seedGenerator},
     {"clock", 1, 1, Acts::Anywhere, setClock},
@@ -138,7 +138,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 std::span<const Command> platformCommands() {
-    return kCommands;
+    return kPlatformCommands;
 }
 
 }  // namespace ombrelia::scenario

@@ -49,7 +49,7 @@ void keyDown(Session& session, const Fields& fields) {
     session.pointer.key(static_cast<int>(wholeNumber(fields[0], 0, 255)));
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kPointerCommands[] = {
     {"scale", 1, 1, Acts::Anywhere, scale},      {"point", 1, 3, Acts::OnEditor, point},
     {"down", 1, 1, Acts::OnEditor, down},        {"up", 1, 1, Acts::OnEditor, up},
     {"key-down", 1, 1, Acts::OnEditor, keyDown},
@@ -58,7 +58,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 std::span<const Command> pointerCommands() {
-    return kCommands;
+    return kPointerCommands;
 }
 
 }  // namespace ombrelia::scenario

@@ -151,7 +151,7 @@ void maze(Session& /*session*/, const Fields& fields) {
     });
 }
 
-constexpr Command kCommands[] = {
+constexpr Command kShortcutCommands[] = {
     {"run", 1, 1, Acts::OnEditor, run},          {"slider", 2, 2, Acts::OnEditor, setSlider},
     {"button", 2, 2, Acts::OnEditor, setButton}, {"fill", 1, 1, Acts::OnEditor, fill},
     {"cell", 3, 3, Acts::OnEditor, setCell},     {"heights", 1, 1, Acts::OnEditor, readHeights},
@@ -161,7 +161,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 std::span<const Command> shortcutCommands() {
-    return kCommands;
+    return kShortcutCommands;
 }
 
 }  // namespace ombrelia::scenario

@@ -11,7 +11,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kSlowYield = 20;  // milliseconds
+constexpr int kYieldOfADrawing = 20;  // milliseconds
 
 // Hills that look different from every side.
 void makeHills() {
@@ -134,7 +134,7 @@ TEST(Perspective, the_light_stops_a_drawing_in_the_middle) {
             driver.rest();
             EXPECT_GT(countLit(driver.pictureOf(Form1.MapView)), part);
         },
-        kSlowYield);
+        kYieldOfADrawing);
 }
 
 }  // namespace ombrelia

@@ -12,13 +12,13 @@ namespace ombrelia {
 
 namespace {
 
-struct TypedRow {
+struct TypedButton {
     int first, last;
     std::array<int, 5> fields;  // kind, latching, exclusive, group, state
 };
 
 // Every record of the editor, typed once more; what is not here has no button.
-constexpr TypedRow kTyped[] = {
+constexpr TypedButton kTypedButtons[] = {
     {0, 4, {4, -1, -1, 1, 0}},   {5, 5, {4, -1, -1, 2, 2}},   {6, 6, {4, -1, -1, 2, 0}},
     {7, 7, {4, -1, -1, 1, 2}},   {8, 10, {4, -1, -1, 1, 0}},  {11, 11, {2, 0, 0, 0, 0}},
     {12, 21, {1, 0, 0, 0, 0}},   {22, 23, {4, 0, 0, 0, 0}},   {24, 24, {5, 0, 0, 0, 0}},
@@ -33,7 +33,7 @@ constexpr TypedRow kTyped[] = {
 };
 
 std::array<int, 5> typedFields(int number) {
-    for (const TypedRow& row : kTyped) {
+    for (const TypedButton& row : kTypedButtons) {
         if (number >= row.first && number <= row.last) {
             return row.fields;
         }

@@ -13,7 +13,7 @@ namespace ombrelia {
 
 namespace {
 
-std::span<const std::uint8_t> bytesOf(const std::string& text) {
+std::span<const std::uint8_t> letters(const std::string& text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
@@ -40,7 +40,7 @@ TEST_F(BinaryFileTest, a_missing_file_is_made_and_new) {
     BinaryFile file(folder / "a");
     EXPECT_TRUE(file.isNew());
     EXPECT_EQ(file.length(), 0U);
-    file.write(bytesOf("hello"));
+    file.write(letters("hello"));
     EXPECT_EQ(file.length(), 5U);
     file.close();
     file.close();
@@ -52,7 +52,7 @@ TEST_F(BinaryFileTest, an_existing_file_keeps_its_bytes) {
     BinaryFile file(folder / "a");
     EXPECT_FALSE(file.isNew());
     EXPECT_EQ(file.length(), 8U);
-    file.write(bytesOf("ab"));
+    file.write(letters("ab"));
     file.close();
     EXPECT_EQ(contentOf(folder / "a"), "ab345678");
 }
@@ -86,7 +86,7 @@ TEST_F(BinaryFileTest, the_systems_reason_is_named) {
 TEST_F(BinaryFileTest, a_write_that_stops_half_way_is_a_failure) {
     const FileSizeLimit full(3);
     BinaryFile file(folder / "a");
-    EXPECT_THROW(file.write(bytesOf("hello")), FileFailure);
+    EXPECT_THROW(file.write(letters("hello")), FileFailure);
     EXPECT_EQ(file.length(), 3U);
 }
 
@@ -110,16 +110,16 @@ TEST_F(BinaryFileTest, undoing_removes_a_new_file_and_empties_an_old_one) {
 }
 
 TEST_F(BinaryFileTest, a_whole_file_is_there_at_once) {
-    ASSERT_TRUE(makeWholeFile(folder / "a", bytesOf("hello")));
+    ASSERT_TRUE(makeWholeFile(folder / "a", letters("hello")));
     EXPECT_EQ(contentOf(folder / "a"), "hello");
-    EXPECT_FALSE(makeWholeFile(folder / "a", bytesOf("other")));
+    EXPECT_FALSE(makeWholeFile(folder / "a", letters("other")));
     EXPECT_EQ(contentOf(folder / "a"), "hello");
-    EXPECT_FALSE(makeWholeFile(folder / "gone/a", bytesOf("hello")));
+    EXPECT_FALSE(makeWholeFile(folder / "gone/a", letters("hello")));
 }
 
 TEST_F(BinaryFileTest, a_whole_file_without_room_is_a_failure_and_not_there) {
     const FileSizeLimit full(3);
-    EXPECT_THROW(makeWholeFile(folder / "a", bytesOf("hello")), FileFailure);
+    EXPECT_THROW(makeWholeFile(folder / "a", letters("hello")), FileFailure);
     EXPECT_TRUE(folder.names().empty());
 }
 

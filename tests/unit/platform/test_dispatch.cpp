@@ -11,12 +11,12 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-Log events;
-EventArgs lastArgs;
+Log dispatched;
+EventArgs dispatchedArgs;
 
 void keepArgs(EventArgs& args) {
-    lastArgs = args;
-    events.push_back(args.Source->Name);
+    dispatchedArgs = args;
+    dispatched.push_back(args.Source->Name);
 }
 
 void put(Control& control, const char* name, Control& parent, Window& window, double left,
@@ -37,8 +37,8 @@ void put(Control& control, const char* name, Control& parent, Window& window, do
 class Dispatch : public ProcessTest {
   protected:
     Dispatch() {
-        events.clear();
-        lastArgs = {};
+        dispatched.clear();
+        dispatchedArgs = {};
         window.Name = "Probe";
         window.Owner = &window;
         window.Width = 100;
@@ -113,17 +113,17 @@ TEST_F(Dispatch, a_disabled_part_is_found_and_gets_nothing) {
     image.Enabled = false;
     EXPECT_EQ(nameAt(43, 30), "image");
     press(image, 1, 1);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(dispatched.empty());
 }
 
 TEST_F(Dispatch, what_a_disabled_part_contains_gets_nothing) {
     frame.Enabled = false;
     press(label, 1, 1);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(dispatched.empty());
     EXPECT_FALSE(isEnabled(label));
     frame.Enabled = true;
     press(label, 1, 1);
-    EXPECT_EQ(events, Log{"label"});
+    EXPECT_EQ(dispatched, Log{"label"});
 }
 
 TEST_F(Dispatch, the_pointer_is_known_even_to_a_disabled_part) {
@@ -135,12 +135,12 @@ TEST_F(Dispatch, the_pointer_is_known_even_to_a_disabled_part) {
 
 TEST_F(Dispatch, images_and_labels_get_twips) {
     press(image, 2, 3.5);
-    EXPECT_EQ(lastArgs.X, 30);
-    EXPECT_EQ(lastArgs.Y, 52.5F);
-    EXPECT_EQ(lastArgs.Button, MouseButton::Left);
-    EXPECT_EQ(lastArgs.Source, &image);
+    EXPECT_EQ(dispatchedArgs.X, 30);
+    EXPECT_EQ(dispatchedArgs.Y, 52.5F);
+    EXPECT_EQ(dispatchedArgs.Button, MouseButton::Left);
+    EXPECT_EQ(dispatchedArgs.Source, &image);
     press(label, -1, 0);
-    EXPECT_EQ(lastArgs.X, -15);
+    EXPECT_EQ(dispatchedArgs.X, -15);
 }
 
 TEST_F(Dispatch, surfaces_get_their_scale_and_windows_pixels) {
@@ -149,27 +149,27 @@ TEST_F(Dispatch, surfaces_get_their_scale_and_windows_pixels) {
     surface.Canvas.ScaleWidth = 20;
     surface.Canvas.ScaleHeight = 5;
     press(surface, 3, 4);
-    EXPECT_EQ(lastArgs.X, 2);    // 3 * 20 / 10 - 4
-    EXPECT_EQ(lastArgs.Y, 102);  // 4 * 5 / 10 + 100
-    press(frame, 6, 7);          // nothing to draw on: one unit a pixel
-    EXPECT_EQ(lastArgs.X, 6);
+    EXPECT_EQ(dispatchedArgs.X, 2);    // 3 * 20 / 10 - 4
+    EXPECT_EQ(dispatchedArgs.Y, 102);  // 4 * 5 / 10 + 100
+    press(frame, 6, 7);                // nothing to draw on: one unit a pixel
+    EXPECT_EQ(dispatchedArgs.X, 6);
     press(window, 8, 9);
-    EXPECT_EQ(lastArgs.X, 8);
-    EXPECT_EQ(lastArgs.Y, 9);
+    EXPECT_EQ(dispatchedArgs.X, 8);
+    EXPECT_EQ(dispatchedArgs.Y, 9);
 }
 
 TEST_F(Dispatch, a_part_without_a_handler_is_left_alone) {
     deliverMouse(image, Event::MouseUp, MouseButton::Left, 1, 1);
     deliver(image, Event::Click);
     raise(image, Event::Click);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(dispatched.empty());
     EXPECT_TRUE(platform.Failures.empty());
 }
 
 TEST_F(Dispatch, the_handler_is_told_the_subscript) {
     image.Index = 17;
     press(image, 0, 0);
-    EXPECT_EQ(lastArgs.Index, 17);
+    EXPECT_EQ(dispatchedArgs.Index, 17);
 }
 
 TEST_F(Dispatch, a_handler_is_known_to_run_until_it_returns) {
@@ -182,11 +182,11 @@ TEST_F(Dispatch, a_handler_is_known_to_run_until_it_returns) {
 
 TEST_F(Dispatch, a_failure_ends_its_handler_only) {
     runHandler([] {
-        events.push_back("before");
+        dispatched.push_back("before");
         throw SubscriptFailure(9, 0, 5);
     });
-    runHandler([] { events.push_back("next"); });
-    EXPECT_EQ(events, (Log{"before", "next"}));
+    runHandler([] { dispatched.push_back("next"); });
+    EXPECT_EQ(dispatched, (Log{"before", "next"}));
     ASSERT_EQ(platform.Failures.size(), 1U);
     EXPECT_EQ(platform.Failures[0], SubscriptFailure(9, 0, 5).what());
     EXPECT_FALSE(isNested());
@@ -196,9 +196,9 @@ TEST_F(Dispatch, a_failure_inside_a_yield_leaves_the_outer_handler_running) {
     platform.OnYield = [] { runHandler([] { throw OverflowFailure(1, 16); }); };
     runHandler([] {
         yieldToEvents();
-        events.push_back("outer goes on");
+        dispatched.push_back("outer goes on");
     });
-    EXPECT_EQ(events, Log{"outer goes on"});
+    EXPECT_EQ(dispatched, Log{"outer goes on"});
     EXPECT_EQ(platform.Failures.size(), 1U);
 }
 
@@ -214,26 +214,27 @@ TEST_F(Dispatch, a_raised_events_failure_reaches_the_caller) {
 TEST_F(Dispatch, the_end_of_the_process_passes_through) {
     EXPECT_THROW(runHandler([] { endProcess(); }), ProcessEnd);
     EXPECT_FALSE(isNested());
-    runHandler([] { events.push_back(isNested() ? "nested" : "not nested"); });
-    EXPECT_EQ(events, Log{"not nested"});
+    runHandler([] { dispatched.push_back(isNested() ? "nested" : "not nested"); });
+    EXPECT_EQ(dispatched, Log{"not nested"});
 }
 
 TEST_F(Dispatch, handlers_inside_a_yield_are_nested) {
     platform.OnYield = [] {
-        runHandler([] { events.push_back(isNested() ? "nested" : "not nested"); });
+        runHandler([] { dispatched.push_back(isNested() ? "nested" : "not nested"); });
     };
     runHandler([] {
-        events.push_back(isNested() ? "nested" : "not nested");
+        dispatched.push_back(isNested() ? "nested" : "not nested");
         yieldToEvents();
-        events.push_back(isNested() ? "nested" : "not nested");
+        dispatched.push_back(isNested() ? "nested" : "not nested");
     });
-    EXPECT_EQ(events, (Log{"not nested", "nested", "not nested"}));
+    EXPECT_EQ(dispatched, (Log{"not nested", "nested", "not nested"}));
 }
 
 // A real platform wraps an event once more.
 TEST_F(Dispatch, a_handler_inside_a_handler_is_not_nested_without_a_yield) {
-    runHandler([] { runHandler([] { events.push_back(isNested() ? "nested" : "not nested"); }); });
-    EXPECT_EQ(events, Log{"not nested"});
+    runHandler(
+        [] { runHandler([] { dispatched.push_back(isNested() ? "nested" : "not nested"); }); });
+    EXPECT_EQ(dispatched, Log{"not nested"});
 }
 
 TEST_F(Dispatch, yields_are_counted) {
@@ -248,44 +249,44 @@ TEST_F(Dispatch, yields_are_counted) {
 TEST_F(Dispatch, what_is_put_off_runs_by_kind_when_the_outermost_handler_has_returned) {
     platform.OnYield = [] {
         runHandler([] {
-            putOff(5, [] { events.push_back("five"); });
-            putOff(2, [] { events.push_back("two, first"); });
-            putOff(2, [] { events.push_back("two, last"); });
+            putOff(5, [] { dispatched.push_back("five"); });
+            putOff(2, [] { dispatched.push_back("two, first"); });
+            putOff(2, [] { dispatched.push_back("two, last"); });
         });
-        events.push_back("inner returned");
+        dispatched.push_back("inner returned");
     };
     runHandler([] {
         yieldToEvents();
-        events.push_back("outer returned");
+        dispatched.push_back("outer returned");
     });
-    EXPECT_EQ(events, (Log{"inner returned", "outer returned", "two, last", "five"}));
+    EXPECT_EQ(dispatched, (Log{"inner returned", "outer returned", "two, last", "five"}));
 }
 
 TEST_F(Dispatch, what_is_put_off_can_put_off_more_and_can_fail) {
     runHandler([] {
         putOff(1, [] {
-            events.push_back("one");
-            putOff(0, [] { events.push_back("zero"); });
+            dispatched.push_back("one");
+            putOff(0, [] { dispatched.push_back("zero"); });
             throw OverflowFailure(1, 16);
         });
-        putOff(3, [] { events.push_back("three"); });
+        putOff(3, [] { dispatched.push_back("three"); });
     });
-    EXPECT_EQ(events, (Log{"one", "zero", "three"}));
+    EXPECT_EQ(dispatched, (Log{"one", "zero", "three"}));
     EXPECT_EQ(platform.Failures.size(), 1U);
 }
 
 TEST_F(Dispatch, a_failed_handler_still_lets_what_was_put_off_run) {
     runHandler([] {
-        putOff(1, [] { events.push_back("one"); });
+        putOff(1, [] { dispatched.push_back("one"); });
         throw OverflowFailure(1, 16);
     });
-    EXPECT_EQ(events, Log{"one"});
+    EXPECT_EQ(dispatched, Log{"one"});
 }
 
 TEST_F(Dispatch, putting_off_asks_the_running_operation_to_stop) {
-    setStopRequest([] { events.push_back("stop asked for"); });
-    runHandler([] { putOff(1, [] { events.push_back("done"); }); });
-    EXPECT_EQ(events, (Log{"stop asked for", "done"}));
+    setStopRequest([] { dispatched.push_back("stop asked for"); });
+    runHandler([] { putOff(1, [] { dispatched.push_back("done"); }); });
+    EXPECT_EQ(dispatched, (Log{"stop asked for", "done"}));
 }
 
 TEST_F(Dispatch, a_window_closed_inside_a_yield_goes_when_the_handler_has_returned) {
@@ -293,15 +294,15 @@ TEST_F(Dispatch, a_window_closed_inside_a_yield_goes_when_the_handler_has_return
     platform.OnYield = [this] { deliverClose(window); };
     runHandler([this] {
         yieldToEvents();
-        events.push_back(window.Loaded ? "still loaded" : "gone");
+        dispatched.push_back(window.Loaded ? "still loaded" : "gone");
     });
-    EXPECT_EQ(events, Log{"still loaded"});
+    EXPECT_EQ(dispatched, Log{"still loaded"});
     EXPECT_FALSE(window.Loaded);
 }
 
 TEST_F(Dispatch, windows_that_stand_alone_close_later_too_and_stop_nothing) {
     Window other;
-    setStopRequest([] { events.push_back("stop asked for"); });
+    setStopRequest([] { dispatched.push_back("stop asked for"); });
     window.StandsAlone = true;
     other.StandsAlone = true;
     loadWindow(window);
@@ -312,9 +313,9 @@ TEST_F(Dispatch, windows_that_stand_alone_close_later_too_and_stop_nothing) {
         deliverClose(other);
         deliverClose(window);
         EXPECT_TRUE(hasPutOff());
-        events.push_back(window.Loaded && other.Loaded ? "still loaded" : "gone");
+        dispatched.push_back(window.Loaded && other.Loaded ? "still loaded" : "gone");
     });
-    EXPECT_EQ(events, Log{"still loaded"});
+    EXPECT_EQ(dispatched, Log{"still loaded"});
     EXPECT_FALSE(window.Loaded);
     EXPECT_FALSE(other.Loaded);
     EXPECT_FALSE(hasPutOff());

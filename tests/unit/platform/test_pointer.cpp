@@ -17,13 +17,13 @@ namespace ombrelia {
 namespace {
 
 using Log = std::vector<std::string>;
-Log events;
-EventArgs last;
+Log heard;
+EventArgs lastArgs;
 void (*onEvent)() = nullptr;
 
 void note(EventArgs& args, const char* word) {
-    last = args;
-    events.push_back(args.Source->Name + " " + word);
+    lastArgs = args;
+    heard.push_back(args.Source->Name + " " + word);
     if (onEvent != nullptr) {
         onEvent();
     }
@@ -52,7 +52,7 @@ void listen(Control& control) {
 class Pointer : public ProcessTest {
   protected:
     Pointer() {
-        events.clear();
+        heard.clear();
         onEvent = nullptr;
         window.Name = "window";
         window.Owner = &window;
@@ -104,19 +104,19 @@ TEST_F(Pointer, a_click_is_a_press_and_a_release_on_one_part) {
     move(12, 12);
     press(12, 12);
     release(49, 29);
-    EXPECT_EQ(events, (Log{"face move", "face down", "face up", "face click"}));
+    EXPECT_EQ(heard, (Log{"face move", "face down", "face up", "face click"}));
 }
 
 TEST_F(Pointer, the_pressed_part_keeps_the_pointer_wherever_it_goes) {
     press(12, 12);
     move(70, 20);
-    EXPECT_EQ(last.Button, MouseButton::Left);
+    EXPECT_EQ(lastArgs.Button, MouseButton::Left);
     move(-50, 200);
     release(70, 20);
-    EXPECT_EQ(events, (Log{"face down", "face move", "face move", "face up"}));
+    EXPECT_EQ(heard, (Log{"face down", "face move", "face move", "face up"}));
     move(70, 20);
-    EXPECT_EQ(events.back(), "surface move");
-    EXPECT_EQ(last.Button, MouseButton::None);
+    EXPECT_EQ(heard.back(), "surface move");
+    EXPECT_EQ(lastArgs.Button, MouseButton::None);
 }
 
 TEST_F(Pointer, a_face_and_its_text_are_one_button) {
@@ -124,7 +124,7 @@ TEST_F(Pointer, a_face_and_its_text_are_one_button) {
     release(25, 18);
     press(25, 18);
     release(12, 12);
-    EXPECT_EQ(events,
+    EXPECT_EQ(heard,
               (Log{"face down", "face up", "face click", "text down", "text up", "text click"}));
 }
 
@@ -132,24 +132,24 @@ TEST_F(Pointer, a_part_without_handlers_is_the_background) {
     move(15, 55);
     press(15, 55);
     release(90, 70);
-    EXPECT_EQ(events, (Log{"window move", "window down", "window up", "window click"}));
+    EXPECT_EQ(heard, (Log{"window move", "window down", "window up", "window click"}));
 }
 
 TEST_F(Pointer, a_release_beyond_the_window_is_no_click) {
     press(90, 70);
     release(100, 70);
-    EXPECT_EQ(events, (Log{"window down", "window up"}));
+    EXPECT_EQ(heard, (Log{"window down", "window up"}));
 }
 
 TEST_F(Pointer, the_frame_of_a_surface_gets_nothing) {
     press(61, 20);
     release(70, 20);
     move(60, 20);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(heard.empty());
     EXPECT_EQ(window.PointerX, 60);
     press(62, 12);
-    EXPECT_EQ(events, Log{"surface down"});
-    EXPECT_EQ(last.X, 0);
+    EXPECT_EQ(heard, Log{"surface down"});
+    EXPECT_EQ(lastArgs.X, 0);
 }
 
 TEST_F(Pointer, a_press_on_a_disabled_part_has_no_release) {
@@ -159,24 +159,24 @@ TEST_F(Pointer, a_press_on_a_disabled_part_has_no_release) {
     face.Enabled = true;
     move(14, 12);
     release(14, 12);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(heard.empty());
     EXPECT_EQ(window.PointerX, 14);
     press(14, 12);
-    EXPECT_EQ(events, Log{"face down"});
+    EXPECT_EQ(heard, Log{"face down"});
 }
 
 TEST_F(Pointer, a_part_that_was_disabled_under_the_button_gets_no_release_either) {
     press(12, 12);
     face.Enabled = false;
     release(12, 12);
-    EXPECT_EQ(events, Log{"face down"});
+    EXPECT_EQ(heard, Log{"face down"});
 }
 
 TEST_F(Pointer, a_disabled_part_is_no_background) {
     quiet.Enabled = false;
     move(15, 55);
     press(15, 55);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(heard.empty());
 }
 
 TEST_F(Pointer, one_button_counts_at_a_time) {
@@ -184,20 +184,20 @@ TEST_F(Pointer, one_button_counts_at_a_time) {
     give(PointerKind::Press, 12, 12, MouseButton::Right);
     give(PointerKind::Release, 12, 12, MouseButton::Right);
     release(12, 12);
-    EXPECT_EQ(events, (Log{"face down", "face up", "face click"}));
+    EXPECT_EQ(heard, (Log{"face down", "face up", "face click"}));
 }
 
 TEST_F(Pointer, the_right_button_makes_no_click) {
     give(PointerKind::Press, 12, 12, MouseButton::Right);
     give(PointerKind::Release, 12, 12, MouseButton::Right);
-    EXPECT_EQ(events, (Log{"face down", "face up"}));
+    EXPECT_EQ(heard, (Log{"face down", "face up"}));
 }
 
 TEST_F(Pointer, a_lost_release_does_not_hold_the_pointer_for_ever) {
     press(12, 12);
     press(70, 20);
     release(70, 20);
-    EXPECT_EQ(events, (Log{"face down", "surface down", "surface up", "surface click"}));
+    EXPECT_EQ(heard, (Log{"face down", "surface down", "surface up", "surface click"}));
 }
 
 TEST_F(Pointer, a_second_press_is_a_press_where_nothing_waits_for_a_double_click) {
@@ -205,134 +205,134 @@ TEST_F(Pointer, a_second_press_is_a_press_where_nothing_waits_for_a_double_click
     release(12, 12);
     give(PointerKind::SecondPress, 12, 12);
     release(12, 12);
-    EXPECT_EQ(events,
+    EXPECT_EQ(heard,
               (Log{"face down", "face up", "face click", "face down", "face up", "face click"}));
 }
 
 TEST_F(Pointer, a_double_click_takes_the_place_of_the_second_press_and_has_no_click) {
     face.On[static_cast<std::size_t>(Event::DblClick)] = [](EventArgs& args) {
-        events.push_back(args.Source->Name + " double");
+        heard.push_back(args.Source->Name + " double");
     };
     press(12, 12);
     release(12, 12);
     give(PointerKind::SecondPress, 12, 12);
     release(12, 12);
-    EXPECT_EQ(events, (Log{"face down", "face up", "face click", "face double", "face up"}));
+    EXPECT_EQ(heard, (Log{"face down", "face up", "face click", "face double", "face up"}));
 }
 
 TEST_F(Pointer, a_second_press_on_another_part_is_its_first) {
     face.On[static_cast<std::size_t>(Event::DblClick)] = [](EventArgs&) {
-        events.emplace_back("double");
+        heard.emplace_back("double");
     };
     press(70, 20);
     release(70, 20);
-    events.clear();
+    heard.clear();
     give(PointerKind::SecondPress, 12, 12);
-    EXPECT_EQ(events, Log{"face down"});
+    EXPECT_EQ(heard, Log{"face down"});
 }
 
 TEST_F(Pointer, a_drag_speaks_to_what_lies_under_it_and_drops_on_the_background_elsewhere) {
     quiet.On[static_cast<std::size_t>(Event::Click)] = [](EventArgs&) {};
     onEvent = [] {
-        if (events.back() == "face down") {
-            beginDrag(*last.Source);
+        if (heard.back() == "face down") {
+            beginDrag(*lastArgs.Source);
         }
     };
     press(12, 12);
     EXPECT_EQ(platform.Dragged, &face);
     move(70, 20);
-    EXPECT_EQ(last.Dragged, &face);
+    EXPECT_EQ(lastArgs.Dragged, &face);
     move(15, 55);
     release(15, 55);
-    EXPECT_EQ(last.Dragged, &face);
-    EXPECT_EQ(events, (Log{"face down", "surface over", "window over", "window drop"}));
+    EXPECT_EQ(lastArgs.Dragged, &face);
+    EXPECT_EQ(heard, (Log{"face down", "surface over", "window over", "window drop"}));
     move(12, 12);
-    EXPECT_EQ(events.back(), "face move");
+    EXPECT_EQ(heard.back(), "face move");
 }
 
 TEST_F(Pointer, a_drop_on_a_disabled_part_is_one_on_the_background) {
     onEvent = [] {
-        if (events.back() == "face down") {
-            beginDrag(*last.Source);
+        if (heard.back() == "face down") {
+            beginDrag(*lastArgs.Source);
         }
     };
     surface.Enabled = false;
     press(12, 12);
     release(70, 20);
-    EXPECT_EQ(events, (Log{"face down", "window drop"}));
+    EXPECT_EQ(heard, (Log{"face down", "window drop"}));
 }
 
 TEST_F(Pointer, whoever_leaves_the_window_is_over_no_part) {
     move(12, 12);
     give(PointerKind::Leave, 0, 0, MouseButton::None);
-    EXPECT_EQ(events, (Log{"face move", "window move"}));
+    EXPECT_EQ(heard, (Log{"face move", "window move"}));
     EXPECT_EQ(window.PointerX, -1);
     press(12, 12);
-    events.clear();
+    heard.clear();
     give(PointerKind::Leave, 0, 0, MouseButton::None);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(heard.empty());
 }
 
 TEST_F(Pointer, a_window_that_goes_away_under_the_button_takes_the_press_along) {
     onEvent = [] {
-        if (events.back() == "face down") {
-            unloadWindow(*last.Source->Owner);
+        if (heard.back() == "face down") {
+            unloadWindow(*lastArgs.Source->Owner);
         }
     };
     press(12, 12);
     window.Loaded = true;
     window.Visible = true;
     release(12, 12);
-    EXPECT_EQ(events, Log{"face down"});
+    EXPECT_EQ(heard, Log{"face down"});
     onEvent = nullptr;
     give(PointerKind::Press, 12, 12, MouseButton::Right);
-    EXPECT_EQ(events, (Log{"face down", "face down"}));
+    EXPECT_EQ(heard, (Log{"face down", "face down"}));
 }
 
 TEST_F(Pointer, a_window_that_its_release_closed_gets_no_click) {
     onEvent = [] {
-        if (events.back() == "face up") {
-            unloadWindow(*last.Source->Owner);
+        if (heard.back() == "face up") {
+            unloadWindow(*lastArgs.Source->Owner);
         }
     };
     press(12, 12);
     release(12, 12);
-    EXPECT_EQ(events, (Log{"face down", "face up"}));
+    EXPECT_EQ(heard, (Log{"face down", "face up"}));
     move(12, 12);
-    EXPECT_EQ(events.size(), 2U);
+    EXPECT_EQ(heard.size(), 2U);
 }
 
 TEST_F(Pointer, images_and_labels_get_whole_units_and_surfaces_parts_of_them) {
     face.Left = 10.4;  // seen from 10 on, on a screen of scale 1
     for (const double scale : {1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 4.0}) {
         for (int pixel = 0; pixel < 100 * scale; ++pixel) {
-            events.clear();
+            heard.clear();
             give(PointerKind::Move, pixel, 12 * scale, MouseButton::None, scale);
-            if (!events.empty() && events[0] != "window move" && events[0] != "surface move") {
-                EXPECT_EQ(last.X / kTwipsPerPixel, std::floor(last.X / kTwipsPerPixel))
-                    << events[0] << " at " << pixel << ", scale " << scale;
+            if (!heard.empty() && heard[0] != "window move" && heard[0] != "surface move") {
+                EXPECT_EQ(lastArgs.X / kTwipsPerPixel, std::floor(lastArgs.X / kTwipsPerPixel))
+                    << heard[0] << " at " << pixel << ", scale " << scale;
             }
         }
     }
     give(PointerKind::Press, 125, 41, MouseButton::Left, 2);
-    EXPECT_EQ(events.back(), "surface down");
-    EXPECT_EQ(last.X, 0.5);
-    EXPECT_EQ(last.Y, 8.5);
+    EXPECT_EQ(heard.back(), "surface down");
+    EXPECT_EQ(lastArgs.X, 0.5);
+    EXPECT_EQ(lastArgs.Y, 8.5);
 }
 
 TEST_F(Pointer, a_place_is_the_device_pixel_that_it_lies_in) {
     give(PointerKind::Press, 124.997, 40.99, MouseButton::Left, 2);
-    EXPECT_EQ(events.back(), "surface down");
-    EXPECT_EQ(last.X, 0.5) << "a rounding error is none";
-    EXPECT_EQ(last.Y, 8);
+    EXPECT_EQ(heard.back(), "surface down");
+    EXPECT_EQ(lastArgs.X, 0.5) << "a rounding error is none";
+    EXPECT_EQ(lastArgs.Y, 8);
 }
 
 TEST_F(Pointer, a_pixel_belongs_to_the_part_under_its_middle) {
     face.Left = 10.2;  // at scale 1.25 its first pixel begins at 12.75, which is painted from 13 on
     give(PointerKind::Move, 12, 20, MouseButton::None, 1.25);
-    EXPECT_EQ(events.back(), "window move");
+    EXPECT_EQ(heard.back(), "window move");
     give(PointerKind::Move, 13, 20, MouseButton::None, 1.25);
-    EXPECT_EQ(events.back(), "face move");
+    EXPECT_EQ(heard.back(), "face move");
 }
 
 class ListOpener : public HeadlessPlatform {
@@ -351,7 +351,7 @@ TEST_F(Pointer, a_left_press_opens_a_list_and_holds_nothing) {
     press(65, 55);
     EXPECT_EQ(opener.opened, &list);
     press(12, 12);
-    EXPECT_EQ(events, Log{"face down"});
+    EXPECT_EQ(heard, Log{"face down"});
     list.Enabled = false;
     opener.opened = nullptr;
     release(12, 12);
@@ -361,18 +361,18 @@ TEST_F(Pointer, a_left_press_opens_a_list_and_holds_nothing) {
 
 TEST_F(Pointer, a_press_without_the_pointer_comes_and_goes) {
     move(70, 20);
-    events.clear();
+    heard.clear();
     pressWithoutPointer(face);
-    EXPECT_EQ(events, (Log{"face move", "face down", "face up", "face click", "window move"}));
+    EXPECT_EQ(heard, (Log{"face move", "face down", "face up", "face click", "window move"}));
     EXPECT_EQ(window.PointerX, 70);
     face.Enabled = false;
     pressWithoutPointer(face);
-    EXPECT_EQ(events.size(), 5U);
+    EXPECT_EQ(heard.size(), 5U);
 }
 
 TEST_F(Pointer, keys_go_to_the_part_that_takes_them_and_else_to_the_window) {
     const Handler key = [](EventArgs& args) {
-        events.push_back(args.Source->Name + " " + std::to_string(args.KeyCode));
+        heard.push_back(args.Source->Name + " " + std::to_string(args.KeyCode));
     };
     constexpr auto kKeyDown = static_cast<std::size_t>(Event::KeyDown);
     window.On[kKeyDown] = key;
@@ -384,17 +384,17 @@ TEST_F(Pointer, keys_go_to_the_part_that_takes_them_and_else_to_the_window) {
     surface.Visible = true;
     surface.Enabled = false;
     keyInput(window, 40);
-    EXPECT_EQ(events, (Log{"window 37", "surface 38", "window 39", "window 40"}));
+    EXPECT_EQ(heard, (Log{"window 37", "surface 38", "window 39", "window 40"}));
     window.Loaded = false;
     keyInput(window, 41);
-    EXPECT_EQ(events.size(), 4U);
+    EXPECT_EQ(heard.size(), 4U);
 }
 
 TEST_F(Pointer, a_press_without_the_pointer_waits_for_no_held_button) {
     press(70, 20);
     pressWithoutPointer(face);
     release(70, 20);
-    EXPECT_EQ(events, (Log{"surface down", "surface up", "surface click"}));
+    EXPECT_EQ(heard, (Log{"surface down", "surface up", "surface click"}));
 }
 
 using PointerInEditor = EditorTest;

@@ -6,35 +6,13 @@
 #include "editor_fixture.h"
 #include "platform/plain_copy.h"
 #include "platform/surface.h"
+#include "platform/surface_letters.h"
 
 namespace ombrelia {
 
 namespace {
 
 using Rows = std::vector<std::string>;
-
-constexpr Color kRed = rgb(255, 0, 0);
-constexpr Color kBlue = rgb(0, 0, 255);
-
-// The image as letters: '.' black, 'r' red, 'b' blue, '?' anything else.
-Rows lettersOf(const Surface& surface) {
-    Rows rows;
-    for (int y = 0; y < surface.height(); ++y) {
-        std::string row;
-        for (int x = 0; x < surface.width(); ++x) {
-            const auto color = static_cast<Color>(surface.pixelAt(x, y));
-            row += color == 0 ? '.' : color == kRed ? 'r' : color == kBlue ? 'b' : '?';
-        }
-        rows.push_back(row);
-    }
-    return rows;
-}
-
-Surface surfaceOf(int width, int height) {
-    Surface surface;
-    surface.setSize(width, height);
-    return surface;
-}
 
 // Every pixel told from every other.
 Surface tellingSurface(int width, int height) {
@@ -185,10 +163,10 @@ TEST(Surface, lines_are_cut_at_the_image) {
 TEST(Surface, every_drawing_is_counted) {
     Surface surface = surfaceOf(3, 3);
     const Surface source = tellingSurface(3, 3);
-    std::uint64_t last = surface.revision();
+    std::uint64_t before = surface.revision();
     const auto expectMore = [&] {
-        EXPECT_GT(surface.revision(), last);
-        last = surface.revision();
+        EXPECT_GT(surface.revision(), before);
+        before = surface.revision();
     };
     surface.setPixel(0, 0, kRed);
     expectMore();
@@ -203,7 +181,7 @@ TEST(Surface, every_drawing_is_counted) {
     surface.clear();
     expectMore();
     surface.setPixel(7, 7, kRed);
-    EXPECT_EQ(surface.revision(), last);
+    EXPECT_EQ(surface.revision(), before);
 }
 
 void expectSamePixels(const Surface& a, const Surface& b) {

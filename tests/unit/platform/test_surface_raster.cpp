@@ -11,6 +11,7 @@
 #include "platform/failure.h"
 #include "platform/plain_picture.h"
 #include "platform/surface.h"
+#include "platform/surface_letters.h"
 
 namespace ombrelia {
 
@@ -19,27 +20,8 @@ namespace {
 using Rows = std::vector<std::string>;
 using Corners = std::vector<PixelPoint>;
 
-constexpr Color kRed = rgb(255, 0, 0);
 constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
 constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
-
-Surface surfaceOf(int width, int height) {
-    Surface surface;
-    surface.setSize(width, height);
-    return surface;
-}
-
-Rows lettersOf(const Surface& surface) {
-    Rows rows;
-    for (int y = 0; y < surface.height(); ++y) {
-        std::string row;
-        for (int x = 0; x < surface.width(); ++x) {
-            row += surface.pixelAt(x, y) == 0 ? '.' : 'r';
-        }
-        rows.push_back(row);
-    }
-    return rows;
-}
 
 Rows lettersOf(int width, int height, const Corners& corners) {
     Surface surface = surfaceOf(width, height);

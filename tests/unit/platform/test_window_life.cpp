@@ -8,20 +8,20 @@ namespace ombrelia {
 
 namespace {
 
-std::vector<std::string> events;
+std::vector<std::string> lifeEvents;
 
 class WindowLife : public ProcessTest {
   protected:
     WindowLife() {
-        events.clear();
+        lifeEvents.clear();
         window.Name = "Probe";
         window.Owner = &window;
-        window.Design = [] { events.push_back("design"); };
+        window.Design = [] { lifeEvents.push_back("design"); };
         window.On[static_cast<std::size_t>(Event::Load)] = [](EventArgs& args) {
-            events.push_back("load " + args.Source->Name);
+            lifeEvents.push_back("load " + args.Source->Name);
         };
         window.On[static_cast<std::size_t>(Event::Unload)] = [](EventArgs& args) {
-            events.push_back(static_cast<Window*>(args.Source)->Loaded ? "unload" : "gone");
+            lifeEvents.push_back(static_cast<Window*>(args.Source)->Loaded ? "unload" : "gone");
         };
     }
 
@@ -32,7 +32,7 @@ class WindowLife : public ProcessTest {
 TEST_F(WindowLife, loading_designs_first_and_happens_once) {
     loadWindow(window);
     loadWindow(window);
-    EXPECT_EQ(events, (Log{"design", "load Probe"}));
+    EXPECT_EQ(lifeEvents, (Log{"design", "load Probe"}));
     EXPECT_TRUE(window.Loaded);
     EXPECT_FALSE(window.Visible);
     EXPECT_TRUE(platform.Calls.empty());
@@ -40,11 +40,11 @@ TEST_F(WindowLife, loading_designs_first_and_happens_once) {
 
 TEST_F(WindowLife, showing_loads) {
     showWindow(window);
-    EXPECT_EQ(events, (Log{"design", "load Probe"}));
+    EXPECT_EQ(lifeEvents, (Log{"design", "load Probe"}));
     EXPECT_TRUE(window.Visible);
     EXPECT_EQ(platform.Calls, Log{"show Probe"});
     showWindow(window);
-    EXPECT_EQ(events.size(), 2U);
+    EXPECT_EQ(lifeEvents.size(), 2U);
 }
 
 TEST_F(WindowLife, hiding_keeps_it_loaded) {
@@ -60,11 +60,11 @@ TEST_F(WindowLife, hiding_keeps_it_loaded) {
 
 TEST_F(WindowLife, unloading_tells_the_window_first_and_happens_once) {
     unloadWindow(window);
-    EXPECT_TRUE(events.empty());
+    EXPECT_TRUE(lifeEvents.empty());
     showWindow(window);
     unloadWindow(window);
     unloadWindow(window);
-    EXPECT_EQ(events, (Log{"design", "load Probe", "unload"}));
+    EXPECT_EQ(lifeEvents, (Log{"design", "load Probe", "unload"}));
     EXPECT_EQ(platform.Calls, (Log{"show Probe", "unload Probe"}));
     EXPECT_FALSE(window.Loaded);
     EXPECT_FALSE(window.Visible);

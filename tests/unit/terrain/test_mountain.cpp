@@ -13,13 +13,13 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kHeight = 6;
+constexpr int kHeightSlider = 6;
 constexpr int kTopSize = 7;
 
 class MountainTool : public ToolTest {
   protected:
     static void choose(const slow::Mountain& mountain) {
-        SliderValues(kHeight).Value = static_cast<std::int16_t>(mountain.height);
+        SliderValues(kHeightSlider).Value = static_cast<std::int16_t>(mountain.height);
         SliderValues(kTopSize).Value = static_cast<std::int16_t>(mountain.topSize);
         for (int i = button::kMountainVertical; i <= button::kMountainSmooth; ++i) {
             OptionStates(i).State = i == mountain.steepness ? kOn : kUp;

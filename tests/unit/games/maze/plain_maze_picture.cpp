@@ -13,9 +13,9 @@ struct Point {
 };
 using Shape = std::vector<Point>;
 
-class Picture {
+class PlainPicture {
   public:
-    Picture(const PlainMaze& maze, int width, int height, double tilt)
+    PlainPicture(const PlainMaze& maze, int width, int height, double tilt)
         : maze_(maze), width_(width), height_(height) {
         const double radians = tilt * std::atan(1.0) / 45;
         sine_ = std::sin(radians);
@@ -107,7 +107,7 @@ Shape at(Shape shape, double dx, int steps, double dy) {
     return shape;
 }
 
-void paintSquare(const PlainMaze& maze, Picture& to) {
+void paintSquare(const PlainMaze& maze, PlainPicture& to) {
     to.flat({{0, 0}, {to.xMax, 0}, {to.xMax, to.yMax}, {0, to.yMax}}, 0, 6);
     const Shape post = {{0, 0}, {0.25, 0}, {0.25, 0.25}, {0, 0.25}};
     const Shape alongX = {{0.25, 0}, {1, 0}, {1, 0.25}, {0.25, 0.25}};
@@ -128,7 +128,7 @@ void paintSquare(const PlainMaze& maze, Picture& to) {
     }
 }
 
-void paintHexFloor(const PlainMaze& maze, Picture& to) {
+void paintHexFloor(const PlainMaze& maze, PlainPicture& to) {
     const double r = to.r;
     const double t = 0.25;
     const double P = t / r + 0.5;
@@ -167,7 +167,7 @@ void paintHexFloor(const PlainMaze& maze, Picture& to) {
     }
 }
 
-void paintHexWalls(const PlainMaze& maze, Picture& to) {
+void paintHexWalls(const PlainMaze& maze, PlainPicture& to) {
     const double r = to.r;
     const double t = 0.25;
     const double P = t / r + 0.5;
@@ -256,7 +256,7 @@ void paintHexWalls(const PlainMaze& maze, Picture& to) {
 
 std::vector<std::string> plainPicture(const PlainMaze& maze, int widthPixels, int heightPixels,
                                       double tiltDegrees) {
-    Picture picture(maze, widthPixels, heightPixels, tiltDegrees);
+    PlainPicture picture(maze, widthPixels, heightPixels, tiltDegrees);
     if (maze.isHex) {
         paintHexFloor(maze, picture);
         paintHexWalls(maze, picture);

@@ -8,6 +8,7 @@
 #include "games/maze/maze_generator.h"
 #include "games/maze/maze_solver.h"
 #include "games/maze/plain_maze.h"
+#include "games/maze/seed_digits.h"
 #include "platform/failure.h"
 
 namespace ombrelia {
@@ -34,12 +35,6 @@ SeedDigits digitsFrom(unsigned number) {
         number /= 10;
     }
     return digits;
-}
-
-PlainDigits plain(const SeedDigits& digits) {
-    PlainDigits out;
-    std::copy(digits.begin(), digits.end(), out.begin());
-    return out;
 }
 
 PlainMaze asPlain(MazeStyle style) {

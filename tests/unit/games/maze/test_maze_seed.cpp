@@ -3,16 +3,11 @@
 #include "games/maze/maze_directions.h"
 #include "games/maze/maze_seed.h"
 #include "games/maze/plain_maze.h"
+#include "games/maze/seed_digits.h"
 
 namespace ombrelia {
 
 namespace {
-
-PlainDigits plain(const SeedDigits& digits) {
-    PlainDigits out;
-    std::copy(digits.begin(), digits.end(), out.begin());
-    return out;
-}
 
 SeedDigits lcgDigits(std::uint32_t& state) {
     SeedDigits digits;

@@ -11,10 +11,10 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kLeft = 37;
-constexpr int kUp = 38;
-constexpr int kRight = 39;
-constexpr int kDown = 40;
+constexpr int kLeftKey = 37;
+constexpr int kUpKey = 38;
+constexpr int kRightKey = 39;
+constexpr int kDownKey = 40;
 
 class Worm : public WormTest {
   protected:
@@ -60,17 +60,17 @@ TEST_F(Worm, it_grows_to_its_length_without_erasing_itself) {
 
 TEST_F(Worm, a_second_turn_in_one_tick_is_ignored) {
     tick();
-    key(kDown);
-    key(kLeft);
+    key(kDownKey);
+    key(kLeftKey);
     EXPECT_EQ(Heading, kHeadDown);
     tick();
-    key(kLeft);
+    key(kLeftKey);
     EXPECT_EQ(Heading, kHeadLeft);
 }
 
 TEST_F(Worm, a_reversal_is_refused) {
     constexpr int kPairs[][2] = {
-        {kHeadRight, kLeft}, {kHeadLeft, kRight}, {kHeadUp, kDown}, {kHeadDown, kUp}};
+        {kHeadRight, kLeftKey}, {kHeadLeft, kRightKey}, {kHeadUp, kDownKey}, {kHeadDown, kUpKey}};
     for (const auto& [heading, code] : kPairs) {
         putHead(8, 8, heading);
         LastTurnX = 0;
@@ -82,15 +82,15 @@ TEST_F(Worm, a_reversal_is_refused) {
 TEST_F(Worm, any_key_uses_up_the_turn) {
     tick();
     key(65);
-    key(kDown);
+    key(kDownKey);
     EXPECT_EQ(Heading, kHeadRight);
     tick();
-    key(kDown);
+    key(kDownKey);
     EXPECT_EQ(Heading, kHeadDown);
 }
 
 TEST_F(Worm, the_first_key_counts_before_the_first_tick) {
-    key(kDown);
+    key(kDownKey);
     EXPECT_EQ(Heading, kHeadDown);
 }
 
@@ -121,7 +121,7 @@ TEST_F(Worm, a_bar_of_a_level_costs_a_life) {
 TEST_F(Worm, its_own_body_costs_a_life) {
     putFood(15, 15);
     WormLength = 8;
-    for (const int code : {kRight, kDown, kLeft, kUp}) {
+    for (const int code : {kRightKey, kDownKey, kLeftKey, kUpKey}) {
         tick();
         key(code);
     }

@@ -14,7 +14,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr Color kMarker = rgb(9, 8, 7);
+constexpr Color kMarkerColor = rgb(9, 8, 7);
 
 class UpdateMap : public EditorTest {
   protected:
@@ -28,14 +28,14 @@ class UpdateMap : public EditorTest {
         for (Surface* surface : {&buffer(), &view()}) {
             for (int y = 0; y < surface->height(); ++y) {
                 for (int x = 0; x < surface->width(); ++x) {
-                    surface->setPixel(x, y, kMarker);
+                    surface->setPixel(x, y, kMarkerColor);
                 }
             }
         }
     }
 
     static bool isMarked(const Surface& surface, int x, int y) {
-        return surface.pixelAt(x, y) == static_cast<std::int32_t>(kMarker);
+        return surface.pixelAt(x, y) == static_cast<std::int32_t>(kMarkerColor);
     }
 
     static int paintedPixels(const Surface& surface) {

@@ -87,7 +87,7 @@ void plainProject(const PlainTurned& point, PlainPlace& place) {
 
 namespace {
 
-std::int64_t wholePixel(double value) {
+std::int64_t floored(double value) {
     constexpr double kLow = std::numeric_limits<std::int32_t>::min();
     constexpr double kHigh = std::numeric_limits<std::int32_t>::max();
     return static_cast<std::int64_t>(std::clamp(std::floor(value), kLow, kHigh));
@@ -102,7 +102,7 @@ class PlainCell {
         const double centre = MapSize / 2.0 + 0.2;
         plainProject(plainTurn(x, y, HeightMap(x, y) / 2.0, centre), place_);
         place_.X = place_.X - MapSize;
-        return {wholePixel(place_.X), wholePixel(place_.Y)};
+        return {floored(place_.X), floored(place_.Y)};
     }
 
     Color colorAt(int x, int y) {
