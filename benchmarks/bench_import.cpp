@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "bench_desk.h"
-#include "core/desk/run_command.h"
 #include "core/objects.h"
+#include "desk/run_command.h"
 #include "platform/dispatch.h"
 #include "platform/qt/picture_loader.h"
 

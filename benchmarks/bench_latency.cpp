@@ -13,10 +13,10 @@
 
 #include "bench_desk.h"
 #include "core/button_numbers.h"
-#include "core/desk/run_command.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/run_command.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
 #include "screen_probe.h"

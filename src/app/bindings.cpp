@@ -4,16 +4,16 @@
 #include <functional>
 #include <utility>
 
-#include "core/desk/button_events.h"
-#include "core/desk/desk_events.h"
-#include "core/desk/map_gestures.h"
-#include "core/desk/startup.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/form2.h"
 #include "core/windows/help_box.h"
 #include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
+#include "desk/button_events.h"
+#include "desk/desk_events.h"
+#include "desk/map_gestures.h"
+#include "desk/startup.h"
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_state.h"
 #include "games/worm/worm.h"

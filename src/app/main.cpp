@@ -2,9 +2,9 @@
 #include <csignal>
 
 #include "app/bindings.h"
-#include "core/desk/startup.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "platform/qt/qt_program.h"
 
 int main(int argc, char** argv) {

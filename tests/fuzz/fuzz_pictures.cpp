@@ -5,9 +5,9 @@
 #include <cstdlib>
 
 #include "app/bindings.h"
-#include "core/desk/run_command.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "desk/run_command.h"
 #include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"

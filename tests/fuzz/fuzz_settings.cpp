@@ -5,10 +5,10 @@
 
 #include "app/bindings.h"
 #include "core/color_sets.h"
-#include "core/desk/startup.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "platform/dispatch.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/ini_store.h"

@@ -5,8 +5,8 @@
 
 #include "app/bindings.h"
 #include "command.h"
-#include "core/desk/startup.h"
 #include "core/windows/form1.h"
+#include "desk/startup.h"
 #include "errors.h"
 #include "platform/dispatch.h"
 #include "ticks.h"

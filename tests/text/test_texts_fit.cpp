@@ -5,12 +5,12 @@
 
 #include "app/bindings.h"
 #include "core/color_ramp.h"
-#include "core/desk/startup.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/help_texts_table.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "panels/help_box.h"
 #include "panels/hints_table.h"
 #include "panels/sliders.h"

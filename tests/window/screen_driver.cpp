@@ -13,9 +13,9 @@
 #include <thread>
 
 #include "app/bindings.h"
-#include "core/desk/startup.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "platform/dispatch.h"
 #include "platform/qt/qt_program.h"
 #include "platform/qt/window_view.h"

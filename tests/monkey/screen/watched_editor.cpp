@@ -13,11 +13,11 @@
 
 #include "app/bindings.h"
 #include "core/button_numbers.h"
-#include "core/desk/startup.h"
 #include "core/editor_state.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "platform/dispatch.h"
 #include "platform/qt/qt_program.h"
 #include "platform/qt/window_view.h"

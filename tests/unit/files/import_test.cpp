@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "core/desk/run_command.h"
 #include "core/editor_state.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "desk/run_command.h"
 #include "platform/dispatch.h"
 
 namespace ombrelia {

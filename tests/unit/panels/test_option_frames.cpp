@@ -1,9 +1,9 @@
 #include <cmath>
 
-#include "core/desk/run_command.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "desk/run_command.h"
 #include "editor_fixture.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"

@@ -1,9 +1,9 @@
 #include <cmath>
 #include <string>
 
-#include "core/desk/init_editor.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "desk/init_editor.h"
 #include "editor_fixture.h"
 #include "views/view3d/plain_view.h"
 #include "views/view3d/projection.h"

@@ -1,4 +1,4 @@
-#include "core/desk/preferences.h"
+#include "desk/preferences.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,12 +1,12 @@
 #include <string>
 #include <vector>
 
-#include "core/desk/run_command.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/run_command.h"
 #include "editor_fixture.h"
 #include "platform/dispatch.h"
 

@@ -1,11 +1,11 @@
-#include "core/desk/button_events.h"
+#include "desk/button_events.h"
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
-#include "core/desk/run_command.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "desk/run_command.h"
 #include "panels/cursors_sounds.h"
 #include "panels/hints.h"
 #include "platform/dispatch.h"

@@ -1,4 +1,4 @@
-#include "core/desk/navigation_gestures.h"
+#include "desk/navigation_gestures.h"
 
 #include <algorithm>
 

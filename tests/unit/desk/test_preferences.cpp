@@ -3,10 +3,10 @@
 #include <vector>
 
 #include "core/color_sets.h"
-#include "core/desk/preferences.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "desk/preferences.h"
 #include "editor_fixture.h"
 
 namespace ombrelia {

@@ -2,12 +2,12 @@
 #include <vector>
 
 #include "app/bindings.h"
-#include "core/desk/startup.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "editor_fixture.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"

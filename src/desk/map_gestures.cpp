@@ -1,16 +1,16 @@
-#include "core/desk/map_gestures.h"
+#include "desk/map_gestures.h"
 
 #include <cmath>
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/color_display.h"
-#include "core/desk/button_events.h"
-#include "core/desk/navigation_gestures.h"
-#include "core/desk/tool_gestures.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "desk/button_events.h"
+#include "desk/navigation_gestures.h"
+#include "desk/tool_gestures.h"
 #include "panels/hints.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"

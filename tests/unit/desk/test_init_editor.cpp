@@ -1,9 +1,9 @@
 #include <cmath>
 #include <numbers>
 
-#include "core/desk/init_editor.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "desk/init_editor.h"
 #include "editor_fixture.h"
 
 namespace ombrelia {

@@ -1,4 +1,4 @@
-#include "core/desk/init_editor.h"
+#include "desk/init_editor.h"
 
 #include <cmath>
 

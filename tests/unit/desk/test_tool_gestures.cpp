@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "core/button_numbers.h"
-#include "core/desk/tool_gestures.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
+#include "desk/tool_gestures.h"
 #include "platform/dispatch.h"
 #include "terrain/tool_test.h"
 

@@ -1,17 +1,17 @@
-#include "core/desk/run_command.h"
+#include "desk/run_command.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include "core/buttons.h"
 #include "core/color_display.h"
-#include "core/desk/startup.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
+#include "desk/startup.h"
 #include "files/bitmap_export.h"
 #include "files/bitmap_import.h"
 #include "panels/color_editor.h"

@@ -1,11 +1,11 @@
 #include <string>
 #include <vector>
 
-#include "core/desk/desk_events.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "desk/desk_events.h"
 #include "editor_fixture.h"
 #include "panels/color_editor.h"
 #include "platform/dispatch.h"

@@ -1,8 +1,7 @@
-#include "core/desk/desk_events.h"
+#include "desk/desk_events.h"
 
 #include "core/button_numbers.h"
 #include "core/buttons.h"
-#include "core/desk/button_events.h"
 #include "core/editor_state.h"
 #include "core/maker_page.h"
 #include "core/objects.h"
@@ -10,6 +9,7 @@
 #include "core/windows/form1.h"
 #include "core/windows/maze_window.h"
 #include "core/windows/small_windows.h"
+#include "desk/button_events.h"
 #include "panels/cursors_sounds.h"
 #include "panels/hints.h"
 #include "panels/option_frames.h"

@@ -1,4 +1,4 @@
-#include "core/desk/tool_gestures.h"
+#include "desk/tool_gestures.h"
 
 #include <functional>
 
