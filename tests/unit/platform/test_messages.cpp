@@ -20,13 +20,6 @@ TEST(Messages, every_failure_says_what_and_why) {
                  "it was left.");
 }
 
-TEST(Messages, the_questions_stand_as_they_are) {
-    EXPECT_STREQ(messages::kNewMapQuestion, "Are you sure you want to start a new map?");
-    EXPECT_STREQ(messages::kNewMapTitle, "Start New Map?");
-    EXPECT_STREQ(messages::kExitQuestion, "Are you sure you want to Exit?");
-    EXPECT_STREQ(messages::kExitTitle, "Exit?");
-}
-
 }  // namespace
 
 }  // namespace ombrelia
