@@ -1,5 +1,8 @@
 #include "core/buttons.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "core/button_numbers.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
@@ -10,12 +13,6 @@ namespace ombrelia {
 
 namespace {
 
-struct FaceSet {
-    int kind;
-    Picture picture;
-    double overlayLeft, overlayTop;  // of the text or icon, from the face's corner
-};
-
 constexpr FaceSet kFaces[] = {
     {kind::kStand, Picture::Stand, 9, 8},       {kind::kClose, Picture::CloseB, 0, 0},
     {kind::kPicture, Picture::PicButton, 9, 8}, {kind::kOk, Picture::OkB, 0, 0},
@@ -25,15 +22,11 @@ constexpr FaceSet kFaces[] = {
 
 // Gives the face its picture; nullptr if the kind has none.
 const FaceSet* setFace(Image& face, const ButtonRecord& record) {
-    for (const FaceSet& set : kFaces) {
-        if (set.kind == record.Kind) {
-            if (record.State >= 0 && record.State < pictureInfo(set.picture).faces) {
-                face.Face = {set.picture, record.State};
-            }
-            return &set;
-        }
+    const FaceSet* set = faceSet(record.Kind);
+    if (set != nullptr && record.State >= 0 && record.State < pictureInfo(set->picture).faces) {
+        face.Face = {set->picture, record.State};
     }
-    return nullptr;
+    return set;
 }
 
 void placeOverlay(Control& overlay, const Image& face, const FaceSet& set, int state) {
@@ -56,6 +49,13 @@ void drawPlainButton(ControlArray<Image>& faces, ControlArray<Label>& texts, int
 }
 
 }  // namespace
+
+const FaceSet* faceSet(int kindNumber) {
+    const auto* set =
+        std::find_if(std::begin(kFaces), std::end(kFaces),
+                     [kindNumber](const FaceSet& row) { return row.kind == kindNumber; });
+    return set == std::end(kFaces) ? nullptr : set;
+}
 
 void DrawButton(int i) {
     const ButtonRecord& record = OptionStates(i);

@@ -5,6 +5,16 @@
 
 namespace ombrelia {
 
+// What a kind of button looks like.
+struct FaceSet {
+    int kind;
+    Picture picture;
+    double overlayLeft, overlayTop;  // units of the text or icon from the face's corner
+};
+
+// The row of a kind, or nullptr.
+const FaceSet* faceSet(int kind);
+
 // Sets the face of button i (0..100) from its Kind and State and places what lies on it. A state
 // that has no face leaves the face as it is.
 void DrawButton(int i);

@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-#include "core/button_numbers.h"
+#include "core/button_table.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "platform/numeric.h"
 
@@ -44,12 +45,15 @@ void showBar() {
 void SetToolsEnabled(bool enabled) {
     Form1.NTool(button::kStop + kOverlayOffset).Face = {Picture::Traffic,
                                                         enabled ? kGreenFace : kRedFace};
-    for (int i = 1; i <= 10; ++i) {
-        enableButton(i, enabled);
-        Form1.OptFrame(i).Enabled = enabled;
+    for (const ButtonRow& row : button::kRows) {
+        if (row.isLocked) {
+            enableButton(row.number, enabled);
+        }
     }
-    for (int i = button::kWavy; i <= button::kVolcano; ++i) {
-        enableButton(i, enabled);
+    for (const page::Row& row : page::kRows) {
+        if (row.isLocked) {
+            Form1.OptFrame(row.number).Enabled = enabled;
+        }
     }
     Form1.MapView.Enabled = enabled;
 }

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "core/button_numbers.h"
 #include "core/button_table.h"
 #include "core/buttons.h"
 #include "core/color_sets.h"
@@ -22,23 +21,12 @@ constexpr std::int16_t kStartYaw = 180;
 constexpr std::int16_t kStartTilt = 135;
 constexpr double kPi = 3.14159;  // Required: five decimals (angle_tables_use_short_pi)
 
-struct GroupStart {
-    int group;
-    std::int16_t button;
-};
-constexpr GroupStart kGroupStarts[] = {
-    {group::kTools, button::kColorPicker},
-    {group::kViewMode, button::k2DMode},
-    {group::kMotion3D, button::kRotate3D},
-    {group::kMountainSides, button::kMountainSmooth},
-    {group::kCanyonEdges, button::kCanyonSlightlySteep},
-    {group::kCursorColors, button::kColorCursors},
-    {group::kStyle3D, button::kStylePolygon},
-};
-
+// The member of each group that starts on.
 void fillGroups() {
-    for (const GroupStart& row : kGroupStarts) {
-        GroupCurrent(row.group) = row.button;
+    for (const ButtonRow& row : button::kRows) {
+        if (row.start.group != 0 && row.start.state == kOn) {
+            GroupCurrent(row.start.group) = static_cast<std::int16_t>(row.number);
+        }
     }
 }
 
@@ -53,12 +41,12 @@ void fillButtons() {
     for (int i = 0; i <= button::kLastOfEditor; ++i) {
         ButtonRecord& record = OptionStates(i);
         record.State = kUp;
-        if (const ButtonStart* start = buttonStart(i)) {
-            record.State = start->state;
-            record.Kind = start->kind;
-            record.Latching = start->latching;
-            record.Exclusive = start->exclusive;
-            record.Group = start->group;
+        if (const ButtonRow* row = button::row(i)) {
+            record.State = row->start.state;
+            record.Kind = row->start.kind;
+            record.Latching = row->start.latching;
+            record.Exclusive = row->start.exclusive;
+            record.Group = row->start.group;
         }
         if (i == button::kStylePolygon) {
             record.SavedState = kOn;

@@ -8,15 +8,13 @@
 #include "core/buttons.h"
 #include "core/color_sets.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "panels/sliders.h"
 #include "platform/services.h"
 
 namespace ombrelia {
 
 namespace {
-
-constexpr int kResolutionSlider = 4;
-constexpr int kWidthSlider = 5;
 
 // Order in which loading and saving go through the keys; resetting has another one.
 constexpr int kOrder[] = {button::kStep20,      button::kStep10,       button::kStep5,
@@ -43,13 +41,13 @@ void LoadPreferences() {
         }
         OptionStates(button).State = storedInt16(value);
     }
-    PlaceSlider(kResolutionSlider);
-    PlaceSlider(kWidthSlider);
+    PlaceSlider(slider::kResolution);
+    PlaceSlider(slider::kDrawWidth);
     for (int i = button::kUseCursors; i <= button::kAdvanced3D; ++i) {
         DrawButton(i);
     }
-    showReadout(kResolutionSlider);
-    showReadout(kWidthSlider);
+    showReadout(slider::kResolution);
+    showReadout(slider::kDrawWidth);
 }
 
 void SavePreferences() {

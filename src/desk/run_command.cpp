@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <iterator>
 
+#include "core/button_table.h"
 #include "core/buttons.h"
 #include "core/color_display.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
@@ -28,10 +30,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kMenuFrame = 11;
-constexpr int kOptionsFrame = 12;
 constexpr int kLastTool = 10;
-constexpr int kResolutionSlider = 4;
 
 void updateView() {
     SwitchViewMode(kMode2D);
@@ -44,16 +43,16 @@ void updateViewAndImport() {
 }
 
 void showMenu() {
-    ScrollToFrame(kMenuFrame);
+    ScrollToFrame(page::kMenu);
 }
 
 void showOptions() {
-    ScrollToFrame(kOptionsFrame);
+    ScrollToFrame(page::kRefresh);
 }
 
 void draw3D() {
     SwitchViewMode(kMode3D);
-    DrawTerrain3D(SliderValues(kResolutionSlider).Value, kFullDrawing);
+    DrawTerrain3D(SliderValues(slider::kResolution).Value, kFullDrawing);
 }
 
 void showAbout() {
@@ -158,9 +157,8 @@ void runToolCommand(int& i) {
     if (i == button::k2DMode) {
         bringBackTool();
     }
-    // The wavy tool shows the canyon's page.
-    if (i == button::kWavy) {
-        i = button::kCanyon;
+    if (const ButtonRow* row = button::row(i); row != nullptr && row->shows != page::kNone) {
+        i = row->shows;
     }
     ScrollToFrame(i);
 }

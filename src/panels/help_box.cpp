@@ -5,6 +5,7 @@
 #include "core/editor_state.h"
 #include "core/maker_page.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/help_texts_table.h"
@@ -238,11 +239,11 @@ void HelpBox_ScrollerUp(EventArgs& /*args*/) {
 }
 
 void HelpBox_ArrowDown(EventArgs& args) {
-    holdPageArrow(args.Source == &HelpBox.ScrollUp(kPageSlider));
+    holdPageArrow(args.Source == &HelpBox.ScrollUp(slider::kHelpPage));
 }
 
 void HelpBox_ArrowUp(EventArgs& args) {
-    releasePageArrow(args.Source == &HelpBox.ScrollUp(kPageSlider));
+    releasePageArrow(args.Source == &HelpBox.ScrollUp(slider::kHelpPage));
 }
 
 }  // namespace ombrelia

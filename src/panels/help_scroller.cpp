@@ -5,6 +5,7 @@
 
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/help_box.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
@@ -18,15 +19,15 @@ constexpr int kArrowStep = 9;
 constexpr std::int16_t kThumbHeld = 2;
 
 SliderRecord& record() {
-    return SliderValues(kPageSlider);
+    return SliderValues(slider::kHelpPage);
 }
 
 Image& thumb() {
-    return HelpBox.Scroller(kPageSlider);
+    return HelpBox.Scroller(slider::kHelpPage);
 }
 
 const Image& track() {
-    return HelpBox.Filler(kPageSlider);
+    return HelpBox.Filler(slider::kHelpPage);
 }
 
 void placePage() {
@@ -87,19 +88,19 @@ void endPageThumbDrag() {
 
 void holdPageArrow(bool isUp) {
     if (isUp) {
-        HelpBox.ScrollUp(kPageSlider).Face = {Picture::UpArrow, 1};
+        HelpBox.ScrollUp(slider::kHelpPage).Face = {Picture::UpArrow, 1};
         HelpMouseState = kGestureScrollUp;
     } else {
-        HelpBox.ScrollDown(kPageSlider).Face = {Picture::DownArrow, 1};
+        HelpBox.ScrollDown(slider::kHelpPage).Face = {Picture::DownArrow, 1};
         HelpMouseState = kGestureScrollDown;
     }
 }
 
 void releasePageArrow(bool isUp) {
     if (isUp) {
-        HelpBox.ScrollUp(kPageSlider).Face = {Picture::UpArrow, 0};
+        HelpBox.ScrollUp(slider::kHelpPage).Face = {Picture::UpArrow, 0};
     } else {
-        HelpBox.ScrollDown(kPageSlider).Face = {Picture::DownArrow, 0};
+        HelpBox.ScrollDown(slider::kHelpPage).Face = {Picture::DownArrow, 0};
     }
     HelpMouseState = kGestureNone;
 }

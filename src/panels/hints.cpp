@@ -1,30 +1,31 @@
 #include "panels/hints.h"
 
-#include <algorithm>
-#include <iterator>
-
-#include "core/button_numbers.h"
+#include "core/button_table.h"
 #include "core/buttons.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "panels/cursors_sounds.h"
-#include "panels/hints_table.h"
 #include "platform/window_life.h"
 
 namespace ombrelia {
 
 namespace {
 
-constexpr int kNoCondition = -1;
-
-template <std::size_t N>
-void showRow(const NumberedHint (&rows)[N], int number) {
-    const auto* row = std::find_if(std::begin(rows), std::end(rows), [number](const auto& hint) {
-        return hint.number == number || hint.sameFor == number;
-    });
-    if (row != std::end(rows)) {
-        ShowHint(row->text);
+// What the buttons that are on do on the map, by their numbers; a motion belongs to the
+// perspective.
+void addMapHints(std::string& text, bool ofMotion) {
+    for (int i = 0; i <= button::kLastOfEditor; ++i) {
+        const ButtonRow* row = button::row(i);
+        if (row == nullptr || (row->start.group == group::kMotion3D) != ofMotion || !isOn(i)) {
+            continue;
+        }
+        if (i == button::k3DMode) {
+            addMapHints(text, true);
+        } else if (row->mapHint != nullptr) {
+            text += row->mapHint;
+        }
     }
 }
 
@@ -34,21 +35,21 @@ void ShowHint(const std::string& text) {
     HelpFrm.HelpLbl.Caption = text;
 }
 
-void showButtonHint(int button) {
-    showRow(kButtonHints, button);
+void showButtonHint(int number) {
+    if (const ButtonRow* row = button::row(number)) {
+        ShowHint(row->hint);
+    }
 }
 
-void showSliderHint(int slider) {
-    showRow(kSliderHints, slider);
+void showSliderHint(int number) {
+    if (number >= slider::kFirst && number <= slider::kLast) {
+        ShowHint(slider::row(number).hint);
+    }
 }
 
 void aboutMap() {
     std::string text = "This is the map view. ";
-    for (const MapHint& row : kMapHints) {
-        if (isOn(row.button) && (row.andButton == kNoCondition || isOn(row.andButton))) {
-            text += row.text;
-        }
-    }
+    addMapHints(text, false);
     ShowHint(text);
     wantMapCursor();
 }

@@ -5,6 +5,7 @@
 
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "core/windows/layout.h"
 #include "panels/sliders.h"
@@ -15,28 +16,9 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kFramePitch = 128;
 constexpr int kFrameTestPitch = 136;
 constexpr int kArrowStep = 9;
 constexpr int kEndRoom = 12;
-
-constexpr const char* kTitles[kOptionFrames] = {
-    "Pencil Tool Options",
-    "Line Tool Options",
-    "Raise Terrain Tool Options",
-    "Lower Terrain Tool Options",
-    "Fractal Terrain Options",
-    "2D View Options",
-    "3D View Options",
-    "Color Picker Options",
-    "Mountain Options",
-    "Canyon Options",
-    "Plain Options",
-    "Menu",
-    "Refresh Preferences",
-    "Extra Preferences",
-    "Color Preferences",
-};
 
 constexpr int kHeldFace = 1;
 constexpr int kFreeFace = 0;
@@ -46,19 +28,19 @@ constexpr int kFreeFace = 0;
 void layOutOptionFrames() {
     for (int i = 0; i < kOptionFrames; ++i) {
         PictureBox& frame = Form1.OptFrame(i);
-        frame.Top = kFramePitch * i;
+        frame.Top = page::kPitch * i;
         frame.Left = 0;
         frame.Width = pictureWidth(Picture::OptionFrame);
         frame.Height = pictureHeight(Picture::OptionFrame) - 1;
         frame.Face = {Picture::OptionFrame, 0};
-        Form1.OptLabel(i).Caption = kTitles[i];
+        Form1.OptLabel(i).Caption = page::kRows[i].title;
         Form1.OptBox(i).Face = {Picture::OptionCaption, 0};
         Form1.OptBox(i).Width = pictureWidth(Picture::OptionCaption);
         Form1.OptLabel(i).Width = pictureWidth(Picture::OptionCaption);
     }
     const PictureBox& last = Form1.OptFrame(kOptionFrames - 1);
     const double end = last.Top + last.Height - Form1.Picture1.innerHeight() + kEndRoom;
-    SliderValues(kStripSlider) = {0, 0, roundToInt16(end), 0};
+    SliderValues(slider::kStrip) = {0, 0, roundToInt16(end), 0};
 }
 
 void placeProgressFrame() {
@@ -68,22 +50,23 @@ void placeProgressFrame() {
 }
 
 void ScrollToFrame(int frame) {
-    SliderRecord& strip = SliderValues(kStripSlider);
+    SliderRecord& strip = SliderValues(slider::kStrip);
     // Required: the test uses another pitch than the move (scroll_to_frame_has_two_factors).
-    strip.Value = frame * kFrameTestPitch <= strip.Max ? narrowTo<std::int16_t>(frame * kFramePitch)
-                                                       : strip.Max;
-    PlaceSlider(kStripSlider);
+    strip.Value = frame * kFrameTestPitch <= strip.Max
+                      ? narrowTo<std::int16_t>(frame * page::kPitch)
+                      : strip.Max;
+    PlaceSlider(slider::kStrip);
 }
 
 void scrollHeldArrow() {
-    SliderRecord& strip = SliderValues(kStripSlider);
+    SliderRecord& strip = SliderValues(slider::kStrip);
     if (MouseState == kGestureScrollUp && strip.Value >= kArrowStep) {
         strip.Value = narrowTo<std::int16_t>(strip.Value - kArrowStep);
-        PlaceSlider(kStripSlider);
+        PlaceSlider(slider::kStrip);
     }
     if (MouseState == kGestureScrollDown && strip.Value <= strip.Max - kArrowStep) {
         strip.Value = narrowTo<std::int16_t>(strip.Value + kArrowStep);
-        PlaceSlider(kStripSlider);
+        PlaceSlider(slider::kStrip);
     }
 }
 
@@ -127,10 +110,10 @@ void dragStripThumb(float yTwips) {
     const double moved = std::floor(pointer - ThumbGrab);
     thumb.Top = std::clamp(std::floor(moved + thumb.Top), low, high);
     ThumbGrab = roundToInt16(pointer);
-    SliderRecord& strip = SliderValues(kStripSlider);
+    SliderRecord& strip = SliderValues(slider::kStrip);
     strip.Value = floorToInt16((thumb.Top - low) / room * (strip.Max - strip.Min) + strip.Min);
     for (int j = 0; j < kOptionFrames; ++j) {
-        Form1.OptFrame(j).Top = kFramePitch * j - strip.Value;
+        Form1.OptFrame(j).Top = page::kPitch * j - strip.Value;
     }
 }
 
@@ -159,12 +142,12 @@ void dragFrames(int frame, float y) {
     }
     const double place = y == 0 ? PanelGrabY : stripPlace(frame, y);
     const double delta = PanelGrabY - place;
-    SliderRecord& strip = SliderValues(kStripSlider);
+    SliderRecord& strip = SliderValues(slider::kStrip);
     const std::int16_t before = strip.Value;
     if (strip.Value + delta >= 0 && strip.Value + delta <= strip.Max) {
         strip.Value = floorToInt16(strip.Value + delta);
     }
-    PlaceSlider(kStripSlider);
+    PlaceSlider(slider::kStrip);
     // The strip has moved under the pointer: its place there is a new one.
     PanelGrabY = roundToInt16(place + strip.Value - before);
 }

@@ -7,7 +7,7 @@
 #include "core/color_ramp.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
-#include "core/slider_table.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
@@ -16,10 +16,6 @@
 namespace ombrelia {
 
 namespace {
-
-constexpr int kRiverWidth = 12;
-constexpr int kBankWidth = 13;
-constexpr double kFramePitch = 128;
 
 // Thumbs stand at places of single precision: the tracks' widths count on it.
 float single(double place) {
@@ -33,35 +29,35 @@ double shareOf(const SliderRecord& record) {
 
 void placeFrames() {
     for (int j = 0; j < kOptionFrames; ++j) {
-        Form1.OptFrame(j).Top = kFramePitch * j - SliderValues(kStripSlider).Value;
+        Form1.OptFrame(j).Top = page::kPitch * j - SliderValues(slider::kStrip).Value;
     }
     refreshControl(Form1.Picture1);
 }
 
-void setAndPlace(int slider, int value) {
-    SliderValues(slider).Value = narrowTo<std::int16_t>(value);
-    PlaceSlider(slider);
-    showReadout(slider);
+void setAndPlace(int i, int value) {
+    SliderValues(i).Value = narrowTo<std::int16_t>(value);
+    PlaceSlider(i);
+    showReadout(i);
 }
 
 // The bank of a canyon is always wider than its river.
 void keepBankWider(int dragged) {
-    const int river = SliderValues(kRiverWidth).Value;
-    const int bank = SliderValues(kBankWidth).Value;
+    const int river = SliderValues(slider::kRiverWidth).Value;
+    const int bank = SliderValues(slider::kBankWidth).Value;
     if (bank > river) {
         return;
     }
-    if (dragged == kRiverWidth) {
-        setAndPlace(kBankWidth, river + 1);
-    } else if (dragged == kBankWidth) {
-        setAndPlace(kRiverWidth, bank - 1);
+    if (dragged == slider::kRiverWidth) {
+        setAndPlace(slider::kBankWidth, river + 1);
+    } else if (dragged == slider::kBankWidth) {
+        setAndPlace(slider::kRiverWidth, bank - 1);
     }
 }
 
 }  // namespace
 
 void fillSliders() {
-    for (const SliderStart& row : sliderStarts()) {
+    for (const slider::Row& row : slider::kRows) {
         SliderValues(row.number) = {1, row.start, row.max, row.min};
         PlaceSlider(row.number);
         showReadout(row.number);
@@ -86,22 +82,22 @@ void PlaceSlider(int i) {
         refreshControl(thumb);
         refreshControl(track);
     }
-    if (i == kStripSlider) {
+    if (i == slider::kStrip) {
         placeFrames();
     }
 }
 
 void showReadout(int i) {
     const int value = SliderValues(i).Value;
-    std::string& text = Form1.readout(i).Caption;
-    switch (sliderStart(i).readout) {
-        case Readout::Value:
+    std::string& text = Form1.Readout(i).Caption;
+    switch (slider::row(i).readout) {
+        case slider::Readout::Value:
             text = std::to_string(value);
             break;
-        case Readout::MetresOfAmount:
+        case slider::Readout::MetresOfAmount:
             text = std::to_string(value * kMetresPerStep) + "m";
             break;
-        case Readout::MetresOfHeight:
+        case slider::Readout::MetresOfHeight:
             text = metresText(value);
             break;
     }
@@ -111,7 +107,7 @@ void setSlider(int i, int value) {
     SliderRecord& record = SliderValues(i);
     record.Value = static_cast<std::int16_t>(std::clamp<int>(value, record.Min, record.Max));
     PlaceSlider(i);
-    if (i != kStripSlider) {
+    if (i != slider::kStrip) {
         showReadout(i);
         keepBankWider(i);
     }

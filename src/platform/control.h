@@ -91,7 +91,8 @@ enum class AccessRole { Default, Button, CheckBox, RadioButton, Slider };
 struct Control {
     ControlKind Kind = ControlKind::Image;
     std::string Name;
-    int Index = -1;
+    static constexpr int kNoIndex = -1;
+    int Index = kNoIndex;
     Control* Parent = nullptr;  // the window itself, or a picture box
     Window* Owner = nullptr;
 

@@ -7,6 +7,7 @@
 #include "core/buttons.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
@@ -20,8 +21,6 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kRiverSlider = 12;
-constexpr int kBankSlider = 13;
 constexpr std::int16_t kRiverBedHeight = 20;
 constexpr int kFloorDegrees = 3;  // between two samples
 constexpr int kRiverDegrees = 4;
@@ -129,8 +128,8 @@ void CarveCanyon() {
     if (StrokeCount < 3) {
         return;
     }
-    const int bank = SliderValues(kBankSlider).Value;
-    const int river = SliderValues(kRiverSlider).Value;
+    const int bank = SliderValues(slider::kBankWidth).Value;
+    const int river = SliderValues(slider::kRiverWidth).Value;
     const int edge = chosenEdge();
     const bool hasRiver = isOn(button::kRiverInMiddle);
     SetToolsEnabled(false);

@@ -7,6 +7,7 @@
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
@@ -17,8 +18,6 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kHeightSlider = 6;
-constexpr int kTopSizeSlider = 7;
 constexpr double kRadian = 3.14159 / 180;  // Required: five decimals
                                            // (the_far_flank_uses_a_short_pi)
 
@@ -149,8 +148,8 @@ bool shapeMountain(int x, int y, const MountainShape& shape) {
 void BuildMountain(std::int16_t x, std::int16_t y) {
     forgetStop();
     SetToolsEnabled(false);
-    const int height = SliderValues(kHeightSlider).Value;
-    const MountainShape shape{height, SliderValues(kTopSizeSlider).Value, sideFor(height),
+    const int height = SliderValues(slider::kMountainHeight).Value;
+    const MountainShape shape{height, SliderValues(slider::kMountainTop).Value, sideFor(height),
                               isOn(button::kOnlyLower)};
     announceWork("Calculating Your Mountain", shape.side + shape.topSize);
     if (!shapeMountain(x, y, shape)) {

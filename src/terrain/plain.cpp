@@ -3,16 +3,13 @@
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "terrain/ring.h"
 #include "views/map2d/update_map_view.h"
 
 namespace ombrelia {
 
-namespace {
-
-constexpr int kSizeSlider = 8;
-
-}  // namespace
+namespace {}  // namespace
 
 void levelDisc(int x, int y, int size) {
     const std::int16_t flat = HeightMap(x, y);
@@ -29,7 +26,7 @@ void levelDisc(int x, int y, int size) {
 }
 
 void BuildPlain(std::int16_t x, std::int16_t y) {
-    levelDisc(x, y, SliderValues(kSizeSlider).Value);
+    levelDisc(x, y, SliderValues(slider::kPlainSize).Value);
     if (isOn(button::kAutoRefresh)) {
         RefreshAfterEdit();
     }

@@ -7,6 +7,7 @@
 #include "core/buttons.h"
 #include "core/color_ramp.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
@@ -19,9 +20,6 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kRaiseSlider = 3;
-constexpr int kLowerSlider = 11;
-constexpr int kResolutionSlider = 4;
 constexpr int kHighest = 255;
 constexpr int kParts = 15;       // of the peak, for the step from ring to ring
 constexpr int kLowerRings = 10;  // Required: fewer than the bump's (a_pit_is_narrower_than_a_bump)
@@ -43,7 +41,7 @@ class CellPainter {
 
     void paint(int x, int y) const {
         if (isIn3D_) {
-            DrawLineCell(x, y, SliderValues(kResolutionSlider).Value, viewCentre());
+            DrawLineCell(x, y, SliderValues(slider::kResolution).Value, viewCentre());
             return;
         }
         if (MapSize == kViewSide) {
@@ -124,7 +122,7 @@ Directions sampleDirections() {
 }  // namespace
 
 void RaiseTerrain(float x, float y) {
-    const int peak = peakAt(x, y, SliderValues(kRaiseSlider).Value);
+    const int peak = peakAt(x, y, SliderValues(slider::kRaiseAmount).Value);
     if (peak == 0) {
         return;
     }
@@ -145,7 +143,7 @@ void RaiseTerrain(float x, float y) {
 }
 
 void LowerTerrain(float x, float y) {
-    const int peak = peakAt(x, y, -SliderValues(kLowerSlider).Value);
+    const int peak = peakAt(x, y, -SliderValues(slider::kLowerAmount).Value);
     if (peak == 0) {
         return;
     }

@@ -13,6 +13,7 @@
 #include "core/buttons.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"

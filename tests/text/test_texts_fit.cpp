@@ -4,15 +4,16 @@
 #include <gtest/gtest.h>
 
 #include "app/bindings.h"
+#include "core/button_table.h"
 #include "core/color_ramp.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/help_texts_table.h"
 #include "core/windows/small_windows.h"
 #include "desk/startup.h"
 #include "panels/help_box.h"
-#include "panels/hints_table.h"
 #include "panels/sliders.h"
 #include "platform/dispatch.h"
 #include "platform/headless/headless_platform.h"
@@ -80,14 +81,14 @@ TEST_F(Texts, every_hint_fits_the_frame) {
         HelpFrm.HelpLbl.Caption = text;
         expectToFit(HelpFrm.HelpLbl, text);
     };
-    for (const NumberedHint& row : kButtonHints) {
-        expectHintToFit(row.text);
+    for (const ButtonRow& row : button::kRows) {
+        expectHintToFit(row.hint);
+        if (row.mapHint != nullptr) {
+            expectHintToFit(std::string("This is the map view. ") + row.mapHint);
+        }
     }
-    for (const NumberedHint& row : kSliderHints) {
-        expectHintToFit(row.text);
-    }
-    for (const MapHint& row : kMapHints) {
-        expectHintToFit(std::string("This is the map view. ") + row.text);
+    for (const slider::Row& row : slider::kRows) {
+        expectHintToFit(row.hint);
     }
 }
 
@@ -122,10 +123,10 @@ TEST_F(Texts, every_part_of_a_page_lies_within_it) {
 }
 
 TEST_F(Texts, each_slider_shows_its_widest_value) {
-    for (int slider = 1; slider <= 14; ++slider) {
-        SliderValues(slider).Value = SliderValues(slider).Max;
-        showReadout(slider);
-        expectToFit(Form1.readout(slider), "slider " + std::to_string(slider));
+    for (int i = slider::kFirst; i <= slider::kLast; ++i) {
+        SliderValues(i).Value = SliderValues(i).Max;
+        showReadout(i);
+        expectToFit(Form1.Readout(i), "slider " + std::to_string(i));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/help_box.h"
 #include "core/windows/help_texts_table.h"
 #include "panels/option_frames.h"
@@ -50,7 +51,7 @@ bool scrollTo(ScreenDriver& driver, const Control& part) {
     const auto isInSight = [&] {
         return part.Parent->Top + part.Top + part.Height < HelpBox.Picture1.Height;
     };
-    driver.moveTo(HelpBox.ScrollDown(kPageSlider));
+    driver.moveTo(HelpBox.ScrollDown(slider::kHelpPage));
     driver.press();
     const bool isThere = driver.waitFor(isInSight);
     driver.release();

@@ -62,12 +62,12 @@ TEST(OptionStrip, each_slider_goes_to_both_its_ends) {
             dragTo(driver, slider, 200);
             driver.inProgram([&] {
                 EXPECT_EQ(SliderValues(slider).Value, limits.Max) << slider;
-                EXPECT_EQ(Form1.readout(slider).Caption, readoutOf(slider, limits.Max));
+                EXPECT_EQ(Form1.Readout(slider).Caption, readoutOf(slider, limits.Max));
             });
             dragTo(driver, slider, -80);
             driver.inProgram([&] {
                 EXPECT_EQ(SliderValues(slider).Value, limits.Min) << slider;
-                EXPECT_EQ(Form1.readout(slider).Caption, readoutOf(slider, limits.Min));
+                EXPECT_EQ(Form1.Readout(slider).Caption, readoutOf(slider, limits.Min));
             });
         }
         driver.inProgram([] { EXPECT_EQ(SliderValues(12).Value, 2) << "the bank stays wider"; });

@@ -2,6 +2,7 @@
 
 #include "core/button_numbers.h"
 #include "core/button_table.h"
+#include "core/buttons.h"
 #include "core/windows/form1_layout.h"
 #include "core/windows/layout.h"
 
@@ -13,25 +14,7 @@ namespace {
 
 constexpr double kFormWidth = 771;
 constexpr double kFormHeight = 355;
-
-Picture facePicture(int kindNumber) {
-    switch (kindNumber) {
-        case kind::kStand:
-            return Picture::Stand;
-        case kind::kClose:
-            return Picture::CloseB;
-        case kind::kPicture:
-            return Picture::PicButton;
-        case kind::kOk:
-            return Picture::OkB;
-        case kind::kMinimize:
-            return Picture::MinB;
-        case kind::kSmall:
-            return Picture::SmlBut;
-        default:
-            return Picture::Opt;
-    }
-}
+constexpr double kTextBeside = 21;  // from the left edge of a check box
 
 void designPointers() {
     constexpr int kPointers = pictureInfo(Picture::Cursors).faces;
@@ -58,17 +41,6 @@ Form1Window::Form1Window() {
     Design = designForm1;
 }
 
-Label& Form1Window::readout(int slider) {
-    Label* const labels[] = {&lblThick,     &lblLineThick,   &lblRaiseAmount, &lblRes,
-                             &lblWidth,     &lblHeightValue, &lblSizeValue,   &lblPlainSize,
-                             &lblRough,     &lblRoughHeight, &lblLowerAmount, &lblRiverWidth,
-                             &lblBankWidth, &lblDetail};
-    if (slider < 1 || slider > static_cast<int>(std::size(labels))) {
-        throw MissingPartFailure("readout of the slider", slider);
-    }
-    return *labels[slider - 1];
-}
-
 namespace {
 
 AccessRole roleOf(const ButtonStart& start) {
@@ -80,30 +52,29 @@ AccessRole roleOf(const ButtonStart& start) {
 
 }  // namespace
 
-void designButton(Form1Window& form, int number, Control& container, double left, double top,
-                  Picture icon) {
-    const ButtonStart& start = *buttonStart(number);
-    Image& face = form.NTool.make(number);
-    designImage(face, "NTool", container, left, top, facePicture(start.kind));
-    face.AccessibleName = start.name;
+void designButton(Form1Window& form, const ButtonRow& row, Control& container) {
+    const ButtonStart& start = row.start;
+    const ButtonPlace& place = row.place;
+    const FaceSet& set = *faceSet(start.kind);
+    Image& face = form.NTool.make(row.number);
+    designImage(face, "NTool", container, place.left, place.top, set.picture);
+    face.AccessibleName = row.name;
     face.Role = roleOf(start);
-    switch (start.kind) {
-        case kind::kStand:
-            designLabel(form.LTool.make(number), "LTool", container,
-                        {left + 9, top + 8, face.Width - 18, face.Height - 16}, start.name,
-                        {.align = TextAlign::Center, .bold = true});
-            form.LTool(number).LiesOn = &face;
-            break;
-        case kind::kPicture:
-            designImage(form.NTool.make(number + kOverlayOffset), "NTool", container, left + 9,
-                        top + 8, icon);
-            break;
-        case kind::kSmall:
-            designImage(form.NTool.make(number + kOverlayOffset), "NTool", container, left, top,
-                        icon);
-            break;
-        default:
-            break;
+    const double left = place.left + set.overlayLeft;
+    const double top = place.top + set.overlayTop;
+    if (start.kind == kind::kStand) {
+        designLabel(form.LTool.make(row.number), "LTool", container,
+                    {left, top, face.Width - 2 * set.overlayLeft, face.Height - 2 * set.overlayTop},
+                    row.name, {.align = TextAlign::Center, .bold = true});
+        form.LTool(row.number).LiesOn = &face;
+    } else if (row.icon != Picture::None) {
+        designImage(form.NTool.make(row.number + kOverlayOffset), "NTool", container, left, top,
+                    row.icon);
+    }
+    if (place.textWidth > 0) {
+        designLabel(form.LTool.make(row.number), "LTool", container,
+                    {place.left + kTextBeside, place.top, place.textWidth, 16}, row.name, {});
+        form.LTool(row.number).LiesOn = &face;
     }
 }
 

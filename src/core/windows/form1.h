@@ -5,8 +5,6 @@
 
 namespace ombrelia {
 
-inline constexpr int kOptionFrames = 15;
-
 struct Form1Window : Window {
     // Title bar.
     Label Label11;              // title text; a press on it moves the window
@@ -54,9 +52,7 @@ struct Form1Window : Window {
     ControlArray<Image> VertScroller;
     ControlArray<Image> VertFiller;
     ControlArray<Label> SliderLabel;  // captions of the sliders
-    Label lblThick, lblLineThick, lblRaiseAmount, lblRes, lblWidth, lblHeightValue, lblSizeValue,
-        lblPlainSize, lblRough, lblRoughHeight, lblLowerAmount, lblRiverWidth, lblBankWidth,
-        lblDetail;
+    ControlArray<Label> Readout;      // of the sliders; each has a name of its own
     ControlArray<Label> FrameText;  // texts in the frames that no handler writes
 
     // Colour page.
@@ -80,9 +76,6 @@ struct Form1Window : Window {
     ControlArray<Image> Curs;
 
     Form1Window();
-
-    // Readout of slider 1..14.
-    Label& readout(int slider);
 };
 
 extern Form1Window Form1;

@@ -1,5 +1,5 @@
 // Form1's layout: title bar, map, top strip, tools.
-#include "core/button_numbers.h"
+#include "core/button_table.h"
 #include "core/windows/form1_layout.h"
 #include "core/windows/layout.h"
 
@@ -7,16 +7,11 @@ namespace ombrelia {
 
 namespace {
 
-struct PlacedButton {
-    int number;
-    double left, top;
-    Picture icon;
-};
-
-template <std::size_t N>
-void placeButtons(Form1Window& form, Control& container, const PlacedButton (&rows)[N]) {
-    for (const PlacedButton& row : rows) {
-        designButton(form, row.number, container, row.left, row.top, row.icon);
+void placeButtons(Form1Window& form, PictureBox Form1Window::*frame) {
+    for (const ButtonRow& row : button::kRows) {
+        if (row.place.frame == frame) {
+            designButton(form, row, form.*frame);
+        }
     }
 }
 
@@ -28,8 +23,11 @@ void designTitle(Form1Window& form) {
                 {.size = 12, .color = skin::kTitle, .bold = true});
     designLabel(form.Label32, "Label32", form, {630, 0, 90, 22}, "quillbyte",
                 {.size = 11, .color = skin::kTextQuiet, .align = TextAlign::Right});
-    designButton(form, button::kMinimize, form, 727, 2);
-    designButton(form, button::kClose, form, 748, 2);
+    for (const ButtonRow& row : button::kRows) {
+        if (row.place.frame == nullptr && row.place.page == page::kNone) {
+            designButton(form, row, form);
+        }
+    }
 }
 
 void designMap(Form1Window& form) {
@@ -53,35 +51,24 @@ void designTopStrip(Form1Window& form) {
                 {.size = 15, .color = skin::kText, .bold = true});
 
     designPart(form.ViewFrame, "ViewFrame", form, {138, 26, 90, 57});
-    const PlacedButton modes[] = {{button::k2DMode, 2, 15, Picture::Mode2d},
-                                  {button::k3DMode, 47, 15, Picture::Mode3d}};
-    placeButtons(form, form.ViewFrame, modes);
+    placeButtons(form, &Form1Window::ViewFrame);
 
     designPart(form.TwoFrame, "TwoFrame", form, {236, 26, 132, 57});
     designLabel(form.TwoLabel, "TwoLabel", form.TwoFrame, {0, 0, 132, kCaptionHeight}, "2D Motion",
                 kCaption);
-    const PlacedButton motion2D[] = {{button::kPan2D, 22, 15, Picture::LensPan},
-                                     {button::kZoom2D, 68, 15, Picture::LensZoom}};
-    placeButtons(form, form.TwoFrame, motion2D);
+    placeButtons(form, &Form1Window::TwoFrame);
 
     designPart(form.ThreeFrame, "ThreeFrame", form, {236, 26, 132, 57});
     form.ThreeFrame.Visible = false;
     designLabel(form.ThreeLabel, "ThreeLabel", form.ThreeFrame, {0, 0, 132, kCaptionHeight},
                 "3D Motion", kCaption);
-    const PlacedButton motion3D[] = {{button::kRotate3D, 0, 15, Picture::MotionRotate},
-                                     {button::kPan3D, 45, 15, Picture::MotionPan},
-                                     {button::kZoom3D, 90, 15, Picture::MotionZoom}};
-    placeButtons(form, form.ThreeFrame, motion3D);
+    placeButtons(form, &Form1Window::ThreeFrame);
 
     designPart(form.MenuFrame, "MenuFrame", form, {376, 26, 286, 57});
-    const PlacedButton menu[] = {{button::kMenu, 25, 18, Picture::None},
-                                 {button::kOptions, 151, 18, Picture::None}};
-    placeButtons(form, form.MenuFrame, menu);
+    placeButtons(form, &Form1Window::MenuFrame);
 
     designPart(form.LightFrame, "LightFrame", form, {670, 26, 94, 57});
-    const PlacedButton light[] = {{button::kStop, 2, 15, Picture::Traffic},
-                                  {button::kHelp, 49, 15, Picture::ToolHelp}};
-    placeButtons(form, form.LightFrame, light);
+    placeButtons(form, &Form1Window::LightFrame);
 }
 
 void designTools(Form1Window& form) {
@@ -91,22 +78,7 @@ void designTools(Form1Window& form) {
     form.PickerChoice.BorderWidth = 2;
 
     designPart(form.ToolFrame, "ToolFrame", form, {321, 86, 130, 261});
-    const PlacedButton tools[] = {
-        {button::kPencil, 1, 15, Picture::ToolPencil},
-        {button::kLine, 44, 15, Picture::ToolLine},
-        {button::kRaise, 87, 15, Picture::ToolRaise},
-        {button::kLower, 1, 57, Picture::ToolLower},
-        {button::kColorPicker, 44, 57, Picture::ToolPicker},
-        {button::kFractal, 87, 57, Picture::ToolFractal},
-        {button::kMountain, 1, 114, Picture::ToolMountain},
-        {button::kCanyon, 44, 114, Picture::ToolCanyon},
-        {button::kPlain, 87, 114, Picture::ToolPlain},
-        {button::kWavy, 1, 156, Picture::ToolWavy},
-        {button::kMountainRange, 44, 156, Picture::ToolMountainRange},
-        {button::kRiver, 87, 156, Picture::ToolRiver},
-        {button::kVolcano, 1, 198, Picture::ToolVolcano},
-    };
-    placeButtons(form, form.ToolFrame, tools);
+    placeButtons(form, &Form1Window::ToolFrame);
     designLabel(form.Label1, "Label1", form.ToolFrame, {50, 198, 78, 13}, "Draw height",
                 {.size = 10, .color = skin::kTextQuiet});
     designPart(form.Picture3, "Picture3", form.ToolFrame, {50, 212, 78, 24});

@@ -5,14 +5,15 @@
 
 namespace ombrelia {
 
+struct ButtonRow;
+
 // Everything but the option strip's contents.
 void designDesk(Form1Window& form);
 
 // The option frames, what stands in them, and the progress panel.
 void designOptionFrames(Form1Window& form);
 
-// A button: its face by the kind in the button table, its icon or its text.
-void designButton(Form1Window& form, int number, Control& container, double left, double top,
-                  Picture icon = Picture::None);
+// A button: its face by its kind, its icon or its text.
+void designButton(Form1Window& form, const ButtonRow& row, Control& container);
 
 }  // namespace ombrelia

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/button_numbers.h"
+#include "core/option_strip_table.h"
 #include "core/windows/help_texts_table.h"
 #include "core/windows/layout.h"
 #include "core/windows/text_size.h"
@@ -158,18 +159,18 @@ void designAbout() {
 }
 
 void designBar() {
-    Image& track = HelpBox.Filler.make(kPageSlider);
+    Image& track = HelpBox.Filler.make(slider::kHelpPage);
     designImage(track, "Filler", HelpBox, kBarLeft, kBarTop + kArrowSide, Picture::Filler);
     track.Height = kBarHeight - 2 * kArrowSide;
-    designImage(HelpBox.Scroller.make(kPageSlider), "Scroller", HelpBox, kBarLeft,
+    designImage(HelpBox.Scroller.make(slider::kHelpPage), "Scroller", HelpBox, kBarLeft,
                 kBarTop + kArrowSide, Picture::Scroller);
-    designImage(HelpBox.ScrollUp.make(kPageSlider), "ScrollUp", HelpBox, kBarLeft, kBarTop,
+    designImage(HelpBox.ScrollUp.make(slider::kHelpPage), "ScrollUp", HelpBox, kBarLeft, kBarTop,
                 Picture::UpArrow);
-    designImage(HelpBox.ScrollDown.make(kPageSlider), "ScrollDown", HelpBox, kBarLeft,
+    designImage(HelpBox.ScrollDown.make(slider::kHelpPage), "ScrollDown", HelpBox, kBarLeft,
                 kBarTop + kBarHeight - kArrowSide, Picture::DownArrow);
-    HelpBox.Scroller(kPageSlider).AccessibleName = "Page";
-    HelpBox.ScrollUp(kPageSlider).AccessibleName = "Scroll up";
-    HelpBox.ScrollDown(kPageSlider).AccessibleName = "Scroll down";
+    HelpBox.Scroller(slider::kHelpPage).AccessibleName = "Page";
+    HelpBox.ScrollUp(slider::kHelpPage).AccessibleName = "Scroll up";
+    HelpBox.ScrollDown(slider::kHelpPage).AccessibleName = "Scroll down";
 }
 
 void designHelpBox() {

@@ -5,9 +5,6 @@
 
 namespace ombrelia {
 
-// Subscript of the page scroller's parts and record.
-inline constexpr int kPageSlider = 20;
-
 inline constexpr int kFirstToolPage = 400;
 inline constexpr int kToolPageCount = 11;
 inline constexpr int kContentsPage = 1;
@@ -35,7 +32,7 @@ struct HelpBoxWindow : Window {
     Label Label40;                   // the About page's text
     Label Label41;                   // the About page's heading
 
-    ControlArray<Image> Scroller;  // kPageSlider alone, like the three below
+    ControlArray<Image> Scroller;  // slider::kHelpPage alone, like the three below
     ControlArray<Image> Filler;
     ControlArray<Image> ScrollUp;
     ControlArray<Image> ScrollDown;

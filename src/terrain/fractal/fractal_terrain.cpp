@@ -8,6 +8,7 @@
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
@@ -33,10 +34,6 @@ std::vector<ValueRow> fractalValues() {
 }
 
 namespace {
-
-constexpr int kSmoothnessSlider = 9;
-constexpr int kHeightSlider = 10;
-constexpr int kDetailSlider = 14;
 
 constexpr int kLatticeExtent = 256;  // map points that the lattice is laid over
 constexpr int kLowestDetail = 1;
@@ -179,15 +176,15 @@ void prepareArrays() {
 
 void GenerateCommand() {
     SetToolsEnabled(false);
-    double h = SliderValues(kSmoothnessSlider).Value / 10.0;
-    GenerateFractalTerrain(h, SliderValues(kHeightSlider).Value);
+    double h = SliderValues(slider::kSmoothness).Value / 10.0;
+    GenerateFractalTerrain(h, SliderValues(slider::kFractalHeight).Value);
     if (isOn(button::kAutoRefresh)) {
         RefreshAfterEdit();
     }
 }
 
 void GenerateFractalTerrain(double& h, std::int16_t& height) {
-    const int detail = SliderValues(kDetailSlider).Value;
+    const int detail = SliderValues(slider::kDetail).Value;
     if (detail < kLowestDetail || detail > kHighestDetail) {
         throw SubscriptFailure(detail, kLowestDetail, kHighestDetail);
     }

@@ -9,6 +9,7 @@
 #include "core/buttons.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
@@ -22,7 +23,6 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kDrawWidthSlider = 5;
 
 struct Quadrant {
     std::int16_t lastYaw;  // degrees
@@ -141,7 +141,7 @@ void DrawTerrain3D(int step, int mode) {
         const double side = MapSize + step;
         announceWork("Calculating 3D View", roundToInt32(side * side));
     }
-    view.DrawWidth = mode == kFullDrawing ? SliderValues(kDrawWidthSlider).Value : 1;
+    view.DrawWidth = mode == kFullDrawing ? SliderValues(slider::kDrawWidth).Value : 1;
     view.clear();
     if (!paintRuns(chooseWalk(step), mode, viewCentre())) {
         return;

@@ -41,8 +41,8 @@ class ButtonMachine : public EditorTest {
         // In perspective no drawing tool is on, and the group's current member waits.
         for (const int group : {2, 4, 5, 6, 8, 9}) {
             int on = 0;
-            for (const ButtonStart& row : buttonStarts()) {
-                if (row.group == group && OptionStates(row.number).State == kOn) {
+            for (const ButtonRow& row : button::kRows) {
+                if (row.start.group == group && OptionStates(row.number).State == kOn) {
                     ++on;
                     EXPECT_EQ(GroupCurrent(group), row.number);
                 }
@@ -50,14 +50,14 @@ class ButtonMachine : public EditorTest {
             EXPECT_LE(on, 1) << "group " << group;
         }
         int tools = 0;
-        for (const ButtonStart& row : buttonStarts()) {
-            tools += row.group == 1 && OptionStates(row.number).State == kOn ? 1 : 0;
+        for (const ButtonRow& row : button::kRows) {
+            tools += row.start.group == 1 && OptionStates(row.number).State == kOn ? 1 : 0;
         }
         EXPECT_LE(tools, 1);
     }
 
     static void expectFacesMatch() {
-        for (const ButtonStart& row : buttonStarts()) {
+        for (const ButtonRow& row : button::kRows) {
             const int state = OptionStates(row.number).State;
             ASSERT_TRUE(state == kUp || state == kHover || state == kOn) << row.number;
             EXPECT_EQ(Form1.NTool(row.number).Face.face, state) << row.number;
@@ -98,21 +98,21 @@ TEST_F(ButtonMachine, random_events_keep_the_invariants) {
 }
 
 TEST_F(ButtonMachine, an_overlay_moves_by_one_unit_with_its_pressed_face) {
-    for (const ButtonStart& row : buttonStarts()) {
+    for (const ButtonRow& row : button::kRows) {
         for (const int state : {kUp, kHover, kOn}) {
             OptionStates(row.number).State = static_cast<std::int16_t>(state);
             DrawButton(row.number);
             const Image& face = Form1.NTool(row.number);
             EXPECT_EQ(face.Face.face, state);
             const double pressed = state == kOn ? 1 : 0;
-            if (row.kind == kind::kStand) {
+            if (row.start.kind == kind::kStand) {
                 EXPECT_EQ(Form1.LTool(row.number).Left, face.Left + 9 + pressed);
                 EXPECT_EQ(Form1.LTool(row.number).Top, face.Top + 8 + pressed);
-            } else if (row.kind == kind::kPicture) {
+            } else if (row.start.kind == kind::kPicture) {
                 const Image& icon = Form1.NTool(row.number + kOverlayOffset);
                 EXPECT_EQ(icon.Left, face.Left + 9 + pressed);
                 EXPECT_EQ(icon.Top, face.Top + 8 + pressed);
-            } else if (row.kind == kind::kSmall) {
+            } else if (row.start.kind == kind::kSmall) {
                 const Image& icon = Form1.NTool(row.number + kOverlayOffset);
                 EXPECT_EQ(icon.Left, face.Left + pressed);
                 EXPECT_EQ(icon.Top, face.Top + pressed);

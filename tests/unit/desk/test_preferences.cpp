@@ -159,9 +159,9 @@ TEST_F(Preferences, two_readouts_follow_their_sliders) {
     SliderValues(5).Value = 10;
     SliderValues(9).Value = 12;
     LoadPreferences();
-    EXPECT_EQ(Form1.lblRes.Caption, "7");
-    EXPECT_EQ(Form1.lblWidth.Caption, "10");
-    EXPECT_EQ(Form1.lblRough.Caption, "1");
+    EXPECT_EQ(Form1.Readout(4).Caption, "7");
+    EXPECT_EQ(Form1.Readout(5).Caption, "10");
+    EXPECT_EQ(Form1.Readout(9).Caption, "1");
     EXPECT_NEAR(Form1.VertScroller(5).Left,
                 Form1.VertFiller(5).Left + Form1.VertFiller(5).Width - Form1.VertScroller(5).Width,
                 1e-4);

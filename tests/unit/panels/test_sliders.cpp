@@ -2,7 +2,7 @@
 
 #include "core/editor_state.h"
 #include "core/objects.h"
-#include "core/slider_table.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
 #include "panels/sliders.h"
@@ -15,7 +15,7 @@ namespace {
 struct TypedSlider {
     int number;
     int min, max, start;
-    Label Form1Window::*label;
+    const char* readoutName;
     const char* readout;
 };
 
@@ -23,20 +23,20 @@ struct TypedSlider {
 constexpr double kNear = 1e-4;
 
 const TypedSlider kTyped[] = {
-    {1, 1, 20, 1, &Form1Window::lblThick, "1"},
-    {2, 1, 20, 1, &Form1Window::lblLineThick, "1"},
-    {3, 1, 20, 10, &Form1Window::lblRaiseAmount, "130m"},
-    {4, 1, 10, 4, &Form1Window::lblRes, "4"},
-    {5, 1, 10, 1, &Form1Window::lblWidth, "1"},
-    {6, 50, 255, 255, &Form1Window::lblHeightValue, "2912m"},
-    {7, 1, 30, 1, &Form1Window::lblSizeValue, "1"},
-    {8, 5, 30, 5, &Form1Window::lblPlainSize, "5"},
-    {9, 1, 20, 1, &Form1Window::lblRough, "1"},
-    {10, 20, 200, 60, &Form1Window::lblRoughHeight, "377m"},
-    {11, 1, 20, 4, &Form1Window::lblLowerAmount, "52m"},
-    {12, 2, 15, 3, &Form1Window::lblRiverWidth, "3"},
-    {13, 3, 25, 10, &Form1Window::lblBankWidth, "10"},
-    {14, 1, 8, 5, &Form1Window::lblDetail, "5"},
+    {1, 1, 20, 1, "lblThick", "1"},
+    {2, 1, 20, 1, "lblLineThick", "1"},
+    {3, 1, 20, 10, "lblRaiseAmount", "130m"},
+    {4, 1, 10, 4, "lblRes", "4"},
+    {5, 1, 10, 1, "lblWidth", "1"},
+    {6, 50, 255, 255, "lblHeightValue", "2912m"},
+    {7, 1, 30, 1, "lblSizeValue", "1"},
+    {8, 5, 30, 5, "lblPlainSize", "5"},
+    {9, 1, 20, 1, "lblRough", "1"},
+    {10, 20, 200, 60, "lblRoughHeight", "377m"},
+    {11, 1, 20, 4, "lblLowerAmount", "52m"},
+    {12, 2, 15, 3, "lblRiverWidth", "3"},
+    {13, 3, 25, 10, "lblBankWidth", "10"},
+    {14, 1, 8, 5, "lblDetail", "5"},
 };
 
 class Sliders : public EditorTest {
@@ -69,12 +69,12 @@ TEST_F(Sliders, a_wished_value_stays_in_its_range_and_moves_thumb_and_readout) {
     args.Value = 7;
     deliver(thumb, Event::SetValue, args);
     EXPECT_EQ(SliderValues(14).Value, 7);
-    EXPECT_EQ(Form1.lblDetail.Caption, "7");
+    EXPECT_EQ(Form1.Readout(14).Caption, "7");
     EXPECT_NEAR(place(14), room(14) * 6 / 7, kNear);
     args.Value = 99;
     deliver(thumb, Event::SetValue, args);
     EXPECT_EQ(SliderValues(14).Value, 8);
-    EXPECT_EQ(Form1.lblDetail.Caption, "8");
+    EXPECT_EQ(Form1.Readout(14).Caption, "8");
 
     EventArgs asked;
     raise(thumb, Event::AskValue, asked);
@@ -95,11 +95,12 @@ TEST_F(Sliders, a_wished_place_of_the_strip_moves_the_frames) {
     EXPECT_EQ(Form1.OptFrame(1).Top, 0);
 }
 
-TEST_F(Sliders, only_1_to_14_have_a_row) {
-    EXPECT_EQ(sliderStart(1).number, 1);
-    EXPECT_EQ(sliderStart(14).number, 14);
-    EXPECT_THROW(sliderStart(0), MissingPartFailure);
-    EXPECT_THROW(sliderStart(15), MissingPartFailure);
+TEST_F(Sliders, other_numbers_have_no_row_and_no_readout) {
+    EXPECT_EQ(slider::row(14).number, 14);
+    for (const int none : {0, slider::kLast + 1}) {
+        EXPECT_THROW(slider::row(none), MissingPartFailure);
+        EXPECT_THROW(Form1.Readout(none), MissingPartFailure);
+    }
 }
 
 TEST_F(Sliders, start_as_the_table_says) {
@@ -107,17 +108,12 @@ TEST_F(Sliders, start_as_the_table_says) {
         const auto n = [](int value) { return static_cast<std::int16_t>(value); };
         EXPECT_EQ(SliderValues(row.number), (SliderRecord{1, n(row.start), n(row.max), n(row.min)}))
             << row.number;
-        EXPECT_EQ((Form1.*row.label).Caption, row.readout) << row.number;
-        EXPECT_EQ(&Form1.readout(row.number), &(Form1.*row.label)) << row.number;
+        EXPECT_EQ(Form1.Readout(row.number).Name, row.readoutName);
+        EXPECT_EQ(Form1.Readout(row.number).Caption, row.readout) << row.number;
     }
-    for (int i = 15; i <= 20; ++i) {
+    for (int i = slider::kLast + 1; i <= slider::kHelpPage; ++i) {
         EXPECT_EQ(SliderValues(i), SliderRecord{});
     }
-}
-
-TEST_F(Sliders, only_1_to_14_have_a_readout) {
-    EXPECT_THROW(Form1.readout(0), MissingPartFailure);
-    EXPECT_THROW(Form1.readout(15), MissingPartFailure);
 }
 
 TEST_F(Sliders, the_thumb_stands_where_the_value_lies) {
@@ -226,36 +222,36 @@ TEST_F(Sliders, a_press_on_an_upright_thumb_leaves_every_value) {
 TEST_F(Sliders, tracks_end_before_their_readouts_and_nearly_together) {
     for (const TypedSlider& row : kTyped) {
         const Image& track = Form1.VertFiller(row.number);
-        EXPECT_LT(track.Left + track.Width, Form1.readout(row.number).Left);
+        EXPECT_LT(track.Left + track.Width, Form1.Readout(row.number).Left);
         EXPECT_NEAR(track.Width, Form1.VertFiller(1).Width, 1);
     }
 }
 
 TEST_F(Sliders, readouts_follow_a_drag) {
     drag(10, -1000);
-    EXPECT_EQ(Form1.lblRoughHeight.Caption, "-143m");
+    EXPECT_EQ(Form1.Readout(10).Caption, "-143m");
     drag(6, -1000);
-    EXPECT_EQ(Form1.lblHeightValue.Caption, "247m");
+    EXPECT_EQ(Form1.Readout(6).Caption, "247m");
     drag(3, 1000);
-    EXPECT_EQ(Form1.lblRaiseAmount.Caption, "260m");
+    EXPECT_EQ(Form1.Readout(3).Caption, "260m");
     drag(14, 1000);
-    EXPECT_EQ(Form1.lblDetail.Caption, "8");
+    EXPECT_EQ(Form1.Readout(14).Caption, "8");
 }
 
 TEST_F(Sliders, a_wider_river_pushes_the_bank) {
     drag(12, 1000);
     EXPECT_EQ(SliderValues(12).Value, 15);
     EXPECT_EQ(SliderValues(13).Value, 16);
-    EXPECT_EQ(Form1.lblBankWidth.Caption, "16");
+    EXPECT_EQ(Form1.Readout(13).Caption, "16");
     EXPECT_NEAR(place(13), 13.0 / 22 * room(13), kNear);
-    EXPECT_EQ(Form1.lblRiverWidth.Caption, "15");
+    EXPECT_EQ(Form1.Readout(12).Caption, "15");
 }
 
 TEST_F(Sliders, a_narrower_bank_pushes_the_river) {
     drag(13, -1000);
     EXPECT_EQ(SliderValues(13).Value, 3);
     EXPECT_EQ(SliderValues(12).Value, 2);
-    EXPECT_EQ(Form1.lblRiverWidth.Caption, "2");
+    EXPECT_EQ(Form1.Readout(12).Caption, "2");
     EXPECT_EQ(place(12), 0);
 }
 

@@ -1,0 +1,154 @@
+// The option strip: its pages, and a row for each slider on them. Each says by itself where it
+// stands, how it starts, and what is said of it.
+#pragma once
+
+#include <cstdint>
+#include <iterator>
+
+namespace ombrelia {
+
+// Pages, from above. Those of the tools have the tools' numbers.
+namespace page {
+
+inline constexpr int kPitch = 128;  // units from one to the next
+inline constexpr int kNone = -1;
+inline constexpr int kPencil = 0;
+inline constexpr int kLine = 1;
+inline constexpr int kRaise = 2;
+inline constexpr int kLower = 3;
+inline constexpr int kFractal = 4;
+inline constexpr int k2DView = 5;
+inline constexpr int k3DView = 6;
+inline constexpr int kColorPicker = 7;
+inline constexpr int kMountain = 8;
+inline constexpr int kCanyon = 9;
+inline constexpr int kPlain = 10;
+inline constexpr int kMenu = 11;
+inline constexpr int kRefresh = 12;
+inline constexpr int kExtra = 13;
+inline constexpr int kColors = 14;
+
+struct Row {
+    int number;
+    const char* title;
+    bool isLocked = false;  // while an operation runs
+};
+
+inline constexpr Row kRows[] = {
+    {kPencil, "Pencil Tool Options"},
+    {kLine, "Line Tool Options", true},
+    {kRaise, "Raise Terrain Tool Options", true},
+    {kLower, "Lower Terrain Tool Options", true},
+    {kFractal, "Fractal Terrain Options", true},
+    {k2DView, "2D View Options", true},
+    {k3DView, "3D View Options", true},
+    {kColorPicker, "Color Picker Options", true},
+    {kMountain, "Mountain Options", true},
+    {kCanyon, "Canyon Options", true},
+    {kPlain, "Plain Options", true},
+    {kMenu, "Menu"},
+    {kRefresh, "Refresh Preferences"},
+    {kExtra, "Extra Preferences"},
+    {kColors, "Color Preferences"},
+};
+
+}  // namespace page
+
+inline constexpr int kOptionFrames = std::size(page::kRows);
+
+namespace slider {
+
+inline constexpr int kStrip = 0;  // of the strip itself
+inline constexpr int kPencilThickness = 1;
+inline constexpr int kLineThickness = 2;
+inline constexpr int kRaiseAmount = 3;
+inline constexpr int kResolution = 4;
+inline constexpr int kDrawWidth = 5;
+inline constexpr int kMountainHeight = 6;
+inline constexpr int kMountainTop = 7;
+inline constexpr int kPlainSize = 8;
+inline constexpr int kSmoothness = 9;
+inline constexpr int kFractalHeight = 10;
+inline constexpr int kLowerAmount = 11;
+inline constexpr int kRiverWidth = 12;
+inline constexpr int kBankWidth = 13;
+inline constexpr int kDetail = 14;
+inline constexpr int kHelpPage = 20;  // of the help window
+
+// What a readout says of its value.
+enum class Readout { Value, MetresOfAmount, MetresOfHeight };
+
+struct Row {
+    int number;
+    int page;
+    double top;  // units from the page's inner corner
+    const char* caption;
+    const char* readoutName;
+    Readout readout;
+    std::int16_t min, max, start;
+    const char* hint;
+};
+
+inline constexpr Row kRows[] = {
+    {kPencilThickness, page::kPencil, 54, "Thickness:", "lblThick", Readout::Value, 1, 20, 1,
+     "Here you can set the width of the pencil drawing."},
+    {kLineThickness, page::kLine, 54, "Thickness:", "lblLineThick", Readout::Value, 1, 20, 1,
+     "Here you can set the width of the line drawing."},
+    {kRaiseAmount, page::kRaise, 54, "Amount", "lblRaiseAmount", Readout::MetresOfAmount, 1, 20, 10,
+     "Here you can set the amount that the terrain gets raised, at the clickpoint."},
+    {kResolution, page::k3DView, 22, "Resolution", "lblRes", Readout::Value, 1, 10, 4,
+     "Here you can set the resolution of your 3D drawing. The higher the number, the faster the "
+     "3D draw, but the quality gets worse."},
+    {kDrawWidth, page::k3DView, 42, "Draw Width", "lblWidth", Readout::Value, 1, 10, 1,
+     "Here you can set the size and width of the lines or dots, when drawing 3D."},
+    {kMountainHeight, page::kMountain, 22, "Height", "lblHeightValue", Readout::MetresOfHeight, 50,
+     255, 255, "Here you can set the height of the mountain to make."},
+    {kMountainTop, page::kMountain, 42, "Top Size", "lblSizeValue", Readout::Value, 1, 30, 1,
+     "Here you can set the top size of the mountain."},
+    {kPlainSize, page::kPlain, 54, "Size", "lblPlainSize", Readout::Value, 5, 30, 5,
+     "Here you can set the size of the plain to create. Keep in mind that this plain is circular."},
+    {kSmoothness, page::kFractal, 22, "Smoothness", "lblRough", Readout::Value, 1, 20, 1,
+     "Here you can set the smoothness of the fractal terrain. A setting of 1 makes almost "
+     "static, and a setting of 20 makes almost 1 color."},
+    {kFractalHeight, page::kFractal, 42, "Height", "lblRoughHeight", Readout::MetresOfHeight, 20,
+     200, 60,
+     "Here you can set the general height of the fractal. Keep in mind that the fractal moves "
+     "up&down, so this is just the average height value."},
+    {kLowerAmount, page::kLower, 54, "Amount", "lblLowerAmount", Readout::MetresOfAmount, 1, 20, 4,
+     "Here you can set the amount that the terrain gets lowered, at the clickpoint."},
+    {kRiverWidth, page::kCanyon, 22, "River Width", "lblRiverWidth", Readout::Value, 2, 15, 3,
+     "Here you can set the width of the river that is generated, if you choose to have one."},
+    {kBankWidth, page::kCanyon, 42, "Bank Width", "lblBankWidth", Readout::Value, 3, 25, 10,
+     "Here you can set the width of the river bank, which is generated regardless of whether or "
+     "not a river is present."},
+    {kDetail, page::kFractal, 62, "Detail", "lblDetail", Readout::Value, 1, 8, 5,
+     "Here you can set the detail level of the fractal. Use 1 to make a very simple terrain, or "
+     "use 8 to make a very complex one."},
+};
+
+inline constexpr int kFirst = 1;
+inline constexpr int kLast = std::size(kRows);
+
+// The row of a slider of the pages; throws MissingPartFailure for a number that has none.
+const Row& row(int number);
+
+}  // namespace slider
+
+namespace option_strip {
+
+template <typename Rows>
+constexpr bool standInOrder(const Rows& rows, int first) {
+    for (const auto& row : rows) {
+        if (row.number != first++) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(standInOrder(page::kRows, 0) && standInOrder(slider::kRows, slider::kFirst),
+              "a row's place is its number");
+static_assert(slider::kLast < slider::kHelpPage, "records are kept up to the help window's");
+
+}  // namespace option_strip
+
+}  // namespace ombrelia
