@@ -25,74 +25,15 @@ bool is3D() {
     return isOn(button::k3DMode);
 }
 
-// The event's place: cells in the view from above, scale units in perspective.
-struct Place {
-    float x, y;
-};
-Place placeOf(const EventArgs& args) {
+MapPlace placeOf(const EventArgs& args) {
     if (is3D()) {
-        return {args.X, args.Y};
+        return {args.X, args.Y, args.Button};
     }
-    return {cellX(args.X), cellY(args.Y)};
-}
-
-bool isInMap(const Place& place) {
-    const auto side = static_cast<float>(MapSize);
-    return place.x >= 0 && place.x <= side && place.y >= 0 && place.y <= side;
-}
-
-void pickHeight(const Place& place) {
-    if (isInMap(place)) {
-        DrawHeight = HeightMap(static_cast<int>(roundToEven(place.x)),
-                               static_cast<int>(roundToEven(place.y)));
-    }
-    UpdatePickedColor();
-}
-
-std::int16_t pointerPixelX() {
-    return floorToInt16(Form1.PointerX);
-}
-
-std::int16_t pointerPixelY() {
-    return floorToInt16(Form1.PointerY);
-}
-
-// Makes another member the current one of its group, both painted.
-void exchange(int off, int on) {
-    OptionStates(off).State = kUp;
-    OptionStates(on).State = kOn;
-    DrawButton(off);
-    DrawButton(on);
-    GroupCurrent(OptionStates(on).Group) = static_cast<std::int16_t>(on);
-}
-
-void swapPanAndZoom() {
-    if (isOn(button::kZoom2D)) {
-        exchange(button::kZoom2D, button::kPan2D);
-    } else if (isOn(button::kPan2D)) {
-        exchange(button::kPan2D, button::kZoom2D);
-    }
-}
-
-void zoomDrag() {
-    const std::int16_t x = pointerPixelX();
-    MapZoom = roundToInt16(MapZoom - (x - DragPixelX));
-    ApplyMapTransform();
-    DragPixelX = x;
-}
-
-void panDrag() {
-    const std::int16_t x = pointerPixelX();
-    const std::int16_t y = pointerPixelY();
-    MapPanY = roundToInt16(MapPanY + (y - DragPixelY));
-    MapPanX = roundToInt16(MapPanX + (x - DragPixelX));
-    ApplyMapPan();
-    DragPixelX = x;
-    DragPixelY = y;
+    return {cellX(args.X), cellY(args.Y), args.Button};
 }
 
 // Ends a drag that stayed beyond an edge, at the cut place scaled back.
-void releaseAt(const EventArgs& args, const Place& place) {
+void releaseAt(const EventArgs& args, const MapPlace& place) {
     const Surface& view = Form1.MapView.Canvas;
     EventArgs release = args;
     if (!is3D()) {
@@ -122,39 +63,17 @@ void ClampToMap(float& x, float& y, std::int16_t& result) {
 }
 
 void MapView_MouseDown(EventArgs& args) {
-    const Place place = placeOf(args);
+    const MapPlace place = placeOf(args);
     switchMotionTool(args.Button == MouseButton::Left, args.Button == MouseButton::Right);
     DoubleClickPending = 0;
     DownX = place.x;
     DownY = place.y;
-    if (is3D()) {
-        MouseState = kGestureNavigate3D;
-        beginNavigation(place.x, place.y);
-    }
-    pressShapingTools(place.x, place.y);
-    if (isOn(button::kColorPicker)) {
-        MouseState = kGesturePick;
-        pickHeight(place);
-    }
-    pressLineTool(place.x, place.y);
-    if (args.Button == MouseButton::Right) {
-        swapPanAndZoom();
-    }
-    if (isOn(button::kZoom2D)) {
-        MouseState = kGestureMapZoom;
-        DragPixelX = pointerPixelX();
-    }
-    if (isOn(button::kPan2D)) {
-        MouseState = kGestureMapPan;
-        beginMapPan();
-        DragPixelX = pointerPixelX();
-        DragPixelY = pointerPixelY();
-    }
+    pressTools(place);
 }
 
 void MapView_MouseMove(EventArgs& args) {
     aboutMap();
-    Place place = placeOf(args);
+    MapPlace place = placeOf(args);
     clearHover();
     std::int16_t isStayingOutside = 0;
     if (!is3D()) {
@@ -164,38 +83,16 @@ void MapView_MouseMove(EventArgs& args) {
         releaseAt(args, place);
     }
     showUnderPointer(place.x, place.y);
-    if (!moveCanyonTool(place.x, place.y)) {
-        return;
-    }
-    if (isOn(button::kColorPicker) && MouseState == kGesturePick) {
-        pickHeight(place);
-    }
-    if (!moveDrawingTools(place.x, place.y)) {
-        return;
-    }
-    if (isOn(button::kZoom2D) && MouseState == kGestureMapZoom) {
-        zoomDrag();
-    }
-    if (isOn(button::kPan2D) && MouseState == kGestureMapPan) {
-        panDrag();
-    }
-    if (is3D() && MouseState == kGestureNavigate3D) {
-        navigate(place.x, place.y);
-    }
-    if (MouseState != kGestureNone) {
+    if (moveTools(place) && MouseState != kGestureNone) {
         refreshControl(Form1.MapView);
     }
 }
 
 void MapView_MouseUp(EventArgs& args) {
-    Place place = placeOf(args);
+    MapPlace place = placeOf(args);
     std::int16_t ignored = 0;
     ClampToMap(place.x, place.y, ignored);
-    releaseObjectTools(place.x, place.y);
-    if (isOn(button::kColorPicker)) {
-        pickHeight(place);
-    }
-    releaseDrawingTools(place.x, place.y);
+    releaseTools(place);
     MouseState = kGestureNone;
 }
 

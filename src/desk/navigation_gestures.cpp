@@ -6,7 +6,9 @@
 #include "core/buttons.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/windows/form1.h"
 #include "platform/numeric.h"
+#include "views/map2d/map_transform.h"
 #include "views/view3d/draw_terrain.h"
 
 namespace ombrelia {
@@ -78,6 +80,23 @@ void zoom(float x) {
     ViewZoom = std::clamp(ViewZoom, kFarthestZoom, kNearestZoom);
 }
 
+std::int16_t pointerPixelX() {
+    return floorToInt16(Form1.PointerX);
+}
+
+std::int16_t pointerPixelY() {
+    return floorToInt16(Form1.PointerY);
+}
+
+// Makes another member the current one of its group, both painted.
+void exchange(int off, int on) {
+    OptionStates(off).State = kUp;
+    OptionStates(on).State = kOn;
+    DrawButton(off);
+    DrawButton(on);
+    GroupCurrent(OptionStates(on).Group) = static_cast<std::int16_t>(on);
+}
+
 }  // namespace
 
 void switchMotionTool(bool isLeft, bool isRight) {
@@ -116,6 +135,41 @@ bool takePanTool() {
     }
     selectMotionTool(button::kPan3D);
     return true;
+}
+
+void beginMapZoom() {
+    DragPixelX = pointerPixelX();
+}
+
+void dragMapZoom() {
+    const std::int16_t x = pointerPixelX();
+    MapZoom = roundToInt16(MapZoom - (x - DragPixelX));
+    ApplyMapTransform();
+    DragPixelX = x;
+}
+
+void beginMapPanDrag() {
+    beginMapPan();
+    DragPixelX = pointerPixelX();
+    DragPixelY = pointerPixelY();
+}
+
+void dragMapPan() {
+    const std::int16_t x = pointerPixelX();
+    const std::int16_t y = pointerPixelY();
+    MapPanY = roundToInt16(MapPanY + (y - DragPixelY));
+    MapPanX = roundToInt16(MapPanX + (x - DragPixelX));
+    ApplyMapPan();
+    DragPixelX = x;
+    DragPixelY = y;
+}
+
+void swapPanAndZoom() {
+    if (isOn(button::kZoom2D)) {
+        exchange(button::kZoom2D, button::kPan2D);
+    } else if (isOn(button::kPan2D)) {
+        exchange(button::kPan2D, button::kZoom2D);
+    }
 }
 
 }  // namespace ombrelia

@@ -1,4 +1,5 @@
-// The mouse on the map in perspective: it drives the camera.
+// The mouse on the map where it moves the view: the camera of the perspective, pan and zoom from
+// above.
 #pragma once
 
 namespace ombrelia {
@@ -16,5 +17,14 @@ void navigate(float x, float y);
 
 // The advanced mode's double click takes the pan tool; false if nothing is to happen.
 bool takePanTool();
+
+// The map from above: a drag by the pointer's place in the window zooms or pans it.
+void beginMapZoom();
+void dragMapZoom();
+void beginMapPanDrag();
+void dragMapPan();
+
+// Of pan and zoom from above the other one, if one of them is on.
+void swapPanAndZoom();
 
 }  // namespace ombrelia

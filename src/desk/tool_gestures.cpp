@@ -1,15 +1,15 @@
 #include "desk/tool_gestures.h"
 
-#include <functional>
-
 #include "core/button_numbers.h"
 #include "core/buttons.h"
+#include "core/color_display.h"
 #include "core/color_ramp.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
-#include "core/progress.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
-#include "platform/dispatch.h"
+#include "desk/map_operation.h"
+#include "desk/navigation_gestures.h"
 #include "platform/numeric.h"
 #include "terrain/canyon.h"
 #include "terrain/mountain.h"
@@ -21,13 +21,11 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kLineThicknessSlider = 2;
 constexpr int kLastOfStroke = 599;
 constexpr int kStartsOfLine = 5;  // times that the line's start is stored
 constexpr int kMarkerWidth = 4;
 constexpr Color kMarkerColor = rgb(255, 0, 0);
 constexpr Color kCanyonDot = rgb(255, 255, 255);
-constexpr int kFirstGestureKey = 200;  // of what waits; commands have their numbers below
 
 // Cells back to the scale of MapView.
 float viewX(float x) {
@@ -60,148 +58,256 @@ void pencilDot(float x, float y) {
     dot(x, y, HeightToColor(DrawHeight));
 }
 
-bool isNoMotionOn() {
-    return !isOn(button::kRotate3D) && !isOn(button::kPan3D) && !isOn(button::kZoom3D);
+bool isInMap(const MapPlace& at) {
+    const auto side = static_cast<float>(MapSize);
+    return at.x >= 0 && at.x <= side && at.y >= 0 && at.y <= side;
 }
 
-void beginLine(float x, float y) {
+void pickHeight(const MapPlace& at) {
+    if (isInMap(at)) {
+        DrawHeight =
+            HeightMap(static_cast<int>(roundToEven(at.x)), static_cast<int>(roundToEven(at.y)));
+    }
+    UpdatePickedColor();
+}
+
+// Press.
+
+void beginCamera(const MapPlace& at) {
+    MouseState = kGestureNavigate3D;
+    beginNavigation(at.x, at.y);
+}
+
+void beginShaping(const MapPlace& /*at*/) {
+    MouseState = kGestureShape;
+}
+
+void beginShapingWithoutMotion(const MapPlace& at) {
+    if (!isOn(button::kRotate3D) && !isOn(button::kPan3D) && !isOn(button::kZoom3D)) {
+        beginShaping(at);
+    }
+}
+
+void beginPencil(const MapPlace& at) {
+    StrokeCount = 1;
+    MouseState = kGesturePencil;
+    // Required: stored, not counted: the first move takes its place
+    // (the_first_move_takes_the_place_of_the_press).
+    storePoint(StrokeCount, at.x, at.y);
+    pencilDot(at.x, at.y);
+}
+
+void beginCanyon(const MapPlace& /*at*/) {
+    MouseState = kGestureCanyon;
+    StrokeCount = 1;
+}
+
+void beginWavy(const MapPlace& /*at*/) {
+    MouseState = kGestureWavy;
+}
+
+void beginPick(const MapPlace& at) {
+    MouseState = kGesturePick;
+    pickHeight(at);
+}
+
+void beginLine(const MapPlace& at) {
+    MouseState = kGestureLine;
     for (int n = 1; n <= kStartsOfLine; ++n) {
-        storePoint(n, x, y);
+        storePoint(n, at.x, at.y);
     }
     StrokeCount = kStartsOfLine + 1;
     Line& line = Form1.Line1;
-    line.BorderWidth = 2 * SliderValues(kLineThicknessSlider).Value - 1;
+    line.BorderWidth = 2 * SliderValues(slider::kLineThickness).Value - 1;
     line.BorderColor = HeightToColor(DrawHeight);
-    line.X1 = line.X2 = viewX(x);
-    line.Y1 = line.Y2 = viewY(y);
+    line.X1 = line.X2 = viewX(at.x);
+    line.Y1 = line.Y2 = viewY(at.y);
     line.Visible = true;
 }
 
-// The recorded points, which the next gesture overwrites.
-struct RecordedPath {
-    CheckedArray<std::int16_t, 0, 600> x = StrokeX;
-    CheckedArray<std::int16_t, 0, 600> y = StrokeY;
-    std::int16_t count = StrokeCount;
-
-    void bringBack() const {
-        StrokeX = x;
-        StrokeY = y;
-        StrokeCount = count;
-    }
-};
-
-// An import leaves the map enabled while it writes the heights: what a gesture begins in there is
-// done after it, along the path as it was.
-void operate(const std::function<void()>& operation) {
-    if (ImportRunning == 0) {
-        operation();
-        return;
-    }
-    // No import can be stopped, and its refresh shall not be.
-    const std::int16_t stop = StopFlag;
-    putOff(kFirstGestureKey + GesturesPutOff, [operation, path = RecordedPath()] {
-        forgetStop();
-        path.bringBack();
-        operation();
-    });
-    StopFlag = stop;
-    ++GesturesPutOff;
-}
-
-}  // namespace
-
-void pressShapingTools(float x, float y) {
-    if (isOn(button::kRaise) || isNoMotionOn() || isOn(button::kLower)) {
-        MouseState = kGestureShape;
-    }
-    if (isOn(button::kPencil)) {
-        StrokeCount = 1;
-        MouseState = kGesturePencil;
-        // Required: stored, not counted: the first move takes its place
-        // (the_first_move_takes_the_place_of_the_press).
-        storePoint(StrokeCount, x, y);
-        pencilDot(x, y);
-    }
-    if (isOn(button::kCanyon)) {
-        MouseState = kGestureCanyon;
-        StrokeCount = 1;
-    }
-    if (isOn(button::kWavy)) {
-        MouseState = kGestureWavy;
-    }
-}
-
-void pressLineTool(float x, float y) {
-    if (isOn(button::kLine)) {
-        MouseState = kGestureLine;
-        beginLine(x, y);
-    } else {
+void showMarker(const MapPlace& /*at*/) {
+    if (!isOn(button::kLine)) {
         Form1.Line1.BorderWidth = kMarkerWidth;
         Form1.Line1.BorderColor = kMarkerColor;
     }
 }
 
-bool moveCanyonTool(float x, float y) {
-    if (!isOn(button::kCanyon) || MouseState != kGestureCanyon) {
-        return true;
+void exchangeMapTools(const MapPlace& at) {
+    if (at.button == MouseButton::Right) {
+        swapPanAndZoom();
     }
+}
+
+void beginZoom(const MapPlace& /*at*/) {
+    MouseState = kGestureMapZoom;
+    beginMapZoom();
+}
+
+void beginPan(const MapPlace& /*at*/) {
+    MouseState = kGestureMapPan;
+    beginMapPanDrag();
+}
+
+// Move. False when the path is full.
+
+bool moveCanyon(const MapPlace& at) {
     const int last = StrokeCount - 1;
     // Required: one sum is compared, so a step along an anti-diagonal is passed over
     // (a_step_along_the_anti_diagonal_is_passed_over).
-    if (x + y == static_cast<float>(StrokeX(last) + StrokeY(last))) {
+    if (at.x + at.y == static_cast<float>(StrokeX(last) + StrokeY(last))) {
         return true;
     }
     if (isPathFull()) {
         return false;
     }
-    storePoint(StrokeCount, x, y);
-    dot(x, y, kCanyonDot);
+    storePoint(StrokeCount, at.x, at.y);
+    dot(at.x, at.y, kCanyonDot);
     ++StrokeCount;
     return true;
 }
 
-bool moveDrawingTools(float x, float y) {
-    if (isOn(button::kPencil) && MouseState == kGesturePencil) {
-        if (isPathFull()) {
+bool movePick(const MapPlace& at) {
+    pickHeight(at);
+    return true;
+}
+
+bool movePencil(const MapPlace& at) {
+    if (isPathFull()) {
+        return false;
+    }
+    addPoint(at.x, at.y);
+    pencilDot(at.x, at.y);
+    return true;
+}
+
+bool moveLine(const MapPlace& at) {
+    Form1.Line1.X2 = viewX(at.x);
+    Form1.Line1.Y2 = viewY(at.y);
+    return true;
+}
+
+bool moveRaise(const MapPlace& at) {
+    RaiseTerrain(at.x, at.y);
+    return true;
+}
+
+bool moveLower(const MapPlace& at) {
+    LowerTerrain(at.x, at.y);
+    return true;
+}
+
+bool moveZoom(const MapPlace& /*at*/) {
+    dragMapZoom();
+    return true;
+}
+
+bool movePan(const MapPlace& /*at*/) {
+    dragMapPan();
+    return true;
+}
+
+bool moveCamera(const MapPlace& at) {
+    navigate(at.x, at.y);
+    return true;
+}
+
+// Release.
+
+void releaseMountain(const MapPlace& at) {
+    operate([at] { BuildMountain(floorToInt16(at.x), floorToInt16(at.y)); });
+}
+
+void releasePlain(const MapPlace& at) {
+    operate([at] { BuildPlain(floorToInt16(at.x), floorToInt16(at.y)); });
+}
+
+void releaseCanyon(const MapPlace& /*at*/) {
+    operate(CarveCanyon);
+}
+
+void releasePencil(const MapPlace& at) {
+    pencilDot(at.x, at.y);
+    operate([] { DrawStroke(kPencilStroke); });
+}
+
+void releaseLine(const MapPlace& at) {
+    if (MouseState != kGestureLine) {
+        return;
+    }
+    storePoint(StrokeCount, at.x, at.y);
+    Form1.Line1.Visible = false;
+    operate([] { DrawStroke(kLineStroke); });
+}
+
+// Each row is asked in its turn whether its button is on, since one before it may have changed
+// that.
+constexpr int kWhateverIsOn = -1;
+
+struct PressRow {
+    int button;
+    void (*press)(const MapPlace&);
+};
+constexpr PressRow kPresses[] = {
+    {button::k3DMode, beginCamera},    {kWhateverIsOn, beginShapingWithoutMotion},
+    {button::kRaise, beginShaping},    {button::kLower, beginShaping},
+    {button::kPencil, beginPencil},    {button::kCanyon, beginCanyon},
+    {button::kWavy, beginWavy},        {button::kColorPicker, beginPick},
+    {button::kLine, beginLine},        {kWhateverIsOn, showMarker},
+    {kWhateverIsOn, exchangeMapTools}, {button::kZoom2D, beginZoom},
+    {button::kPan2D, beginPan},
+};
+
+struct MoveRow {
+    int button;
+    MouseGesture gesture;  // the one that must be running
+    bool (*move)(const MapPlace&);
+};
+constexpr MoveRow kMoves[] = {
+    {button::kCanyon, kGestureCanyon, moveCanyon},
+    {button::kColorPicker, kGesturePick, movePick},
+    {button::kPencil, kGesturePencil, movePencil},
+    {button::kLine, kGestureLine, moveLine},
+    {button::kRaise, kGestureShape, moveRaise},
+    {button::kLower, kGestureShape, moveLower},
+    {button::kZoom2D, kGestureMapZoom, moveZoom},
+    {button::kPan2D, kGestureMapPan, movePan},
+    {button::k3DMode, kGestureNavigate3D, moveCamera},
+};
+
+struct ReleaseRow {
+    int button;
+    void (*release)(const MapPlace&);
+};
+constexpr ReleaseRow kReleases[] = {
+    {button::kMountain, releaseMountain}, {button::kPlain, releasePlain},
+    {button::kCanyon, releaseCanyon},     {button::kColorPicker, pickHeight},
+    {button::kPencil, releasePencil},     {button::kLine, releaseLine},
+};
+
+}  // namespace
+
+void pressTools(const MapPlace& at) {
+    for (const PressRow& row : kPresses) {
+        if (row.button == kWhateverIsOn || isOn(row.button)) {
+            row.press(at);
+        }
+    }
+}
+
+bool moveTools(const MapPlace& at) {
+    for (const MoveRow& row : kMoves) {
+        if (isOn(row.button) && MouseState == row.gesture && !row.move(at)) {
             return false;
         }
-        addPoint(x, y);
-        pencilDot(x, y);
-    }
-    if (isOn(button::kLine) && MouseState == kGestureLine) {
-        Form1.Line1.X2 = viewX(x);
-        Form1.Line1.Y2 = viewY(y);
-    }
-    if (isOn(button::kRaise) && MouseState == kGestureShape) {
-        RaiseTerrain(x, y);
-    }
-    if (isOn(button::kLower) && MouseState == kGestureShape) {
-        LowerTerrain(x, y);
     }
     return true;
 }
 
-void releaseObjectTools(float x, float y) {
-    if (isOn(button::kMountain)) {
-        operate([=] { BuildMountain(floorToInt16(x), floorToInt16(y)); });
-    }
-    if (isOn(button::kPlain)) {
-        operate([=] { BuildPlain(floorToInt16(x), floorToInt16(y)); });
-    }
-    if (isOn(button::kCanyon)) {
-        operate(CarveCanyon);
-    }
-}
-
-void releaseDrawingTools(float x, float y) {
-    if (isOn(button::kPencil)) {
-        pencilDot(x, y);
-        operate([] { DrawStroke(kPencilStroke); });
-    }
-    if (isOn(button::kLine) && MouseState == kGestureLine) {
-        storePoint(StrokeCount, x, y);
-        Form1.Line1.Visible = false;
-        operate([] { DrawStroke(kLineStroke); });
+void releaseTools(const MapPlace& at) {
+    for (const ReleaseRow& row : kReleases) {
+        if (isOn(row.button)) {
+            row.release(at);
+        }
     }
 }
 

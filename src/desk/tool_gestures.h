@@ -1,25 +1,22 @@
-// The terrain tools' share of the gestures on MapView. Each call belongs at its place in the order
-// of the press, the move and the release; (x, y) are cells.
+// What the tools do on MapView: a row each for press, move and release, in the order in which they
+// are asked.
 #pragma once
+
+#include "platform/control.h"
 
 namespace ombrelia {
 
-// Press: raise, lower, pencil, canyon, wavy canyon.
-void pressShapingTools(float x, float y);
+// Where the mouse is: cells in the view from above, scale units in perspective.
+struct MapPlace {
+    float x, y;
+    MouseButton button = MouseButton::None;
+};
 
-// Press: the line; the other tools get their marker instead.
-void pressLineTool(float x, float y);
+void pressTools(const MapPlace& at);
 
-// Move. False when the path is full: the handler then returns at once.
-bool moveCanyonTool(float x, float y);
+// False when a path is full: the handler then returns at once.
+bool moveTools(const MapPlace& at);
 
-// Move: pencil, line, raise, lower. False when the path is full: the handler then returns at once.
-bool moveDrawingTools(float x, float y);
-
-// Release: mountain, plain, canyon.
-void releaseObjectTools(float x, float y);
-
-// Release: pencil, line.
-void releaseDrawingTools(float x, float y);
+void releaseTools(const MapPlace& at);
 
 }  // namespace ombrelia

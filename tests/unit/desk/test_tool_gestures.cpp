@@ -228,9 +228,9 @@ TEST_F(ToolGestures, the_sum_of_a_canyons_point_is_single_precision) {
     StrokeY(1) = 50;
     const float beside = std::nextafter(20.0F, 21.0F);
     StrokeCount = 2;
-    EXPECT_TRUE(moveCanyonTool(beside, 50));  // 70 as single, a little more as double
+    EXPECT_TRUE(moveTools({beside, 50}));  // 70 as single, a little more as double
     EXPECT_EQ(StrokeCount, 2);
-    EXPECT_TRUE(moveCanyonTool(20.001F, 50));
+    EXPECT_TRUE(moveTools({20.001F, 50}));
     EXPECT_EQ(StrokeCount, 3);
 }
 
