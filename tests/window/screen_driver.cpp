@@ -2,6 +2,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 #include <QWindow>
@@ -220,6 +221,34 @@ bool ScreenDriver::waitForDialog(const std::string& title) {
     });
     rest(250);
     return isThere;
+}
+
+bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {
+    if (!waitForDialog(title)) {
+        return false;
+    }
+    QWidget* dialog = nullptr;
+    inProgram([&] { dialog = QApplication::activeModalWidget(); });
+    type(path);
+    const bool isTyped = waitFor([&path] {
+        const auto* line = dynamic_cast<QLineEdit*>(QApplication::focusWidget());
+        return line != nullptr && line->text().toStdString() == path;
+    });
+    // The first one may close the list of names that begin so.
+    constexpr int kReturns = 3;
+    constexpr int kLooks = 150;
+    for (int i = 0; isTyped && i < kReturns; ++i) {
+        key("Return");
+        for (int look = 0; look < kLooks; ++look) {
+            bool isGone = false;
+            inProgram([&] { isGone = QApplication::activeModalWidget() != dialog; });
+            if (isGone) {
+                return true;
+            }
+            rest(20);
+        }
+    }
+    return false;
 }
 
 std::string ScreenDriver::dialogText() {

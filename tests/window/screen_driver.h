@@ -53,6 +53,10 @@ class ScreenDriver {
     bool waitForDialog(const std::string& title);
     std::string dialogText();
 
+    // Names a file in the file dialog with this title. False if it does not come, does not take the
+    // name, or stays.
+    bool nameFile(const std::string& title, const std::string& path);
+
     // The picture of a control's inner area as the screen shows it, device pixels.
     QImage pictureOf(Control& control);
 

@@ -54,9 +54,7 @@ TEST(FirstRoad, a_landscape_is_generated_seen_and_saved_by_mouse) {
 
         pressWide(driver, button::kMenu);
         pressWide(driver, button::kSave);
-        ASSERT_TRUE(driver.waitForDialog("Save Terrain"));
-        driver.type(path.toStdString());
-        driver.key("Return");
+        ASSERT_TRUE(driver.nameFile("Save Terrain", path.toStdString()));
         ASSERT_TRUE(driver.waitFor([&] { return QFileInfo(path).size() == 67898; }));
         driver.inProgram([&] {
             const QImage saved(path);

@@ -36,9 +36,7 @@ QString pictureIn(const QTemporaryDir& folder, const char* name) {
 }
 
 void answerImport(ScreenDriver& driver, const QString& path) {
-    ASSERT_TRUE(driver.waitForDialog("Select Image to Import"));
-    driver.type(path.toStdString());
-    driver.key("Return");
+    ASSERT_TRUE(driver.nameFile("Select Image to Import", path.toStdString()));
 }
 
 void expectBlocks(ScreenDriver& driver, int tolerance) {

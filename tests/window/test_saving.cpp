@@ -16,9 +16,7 @@ namespace {
 
 void saveAs(ScreenDriver& driver, const QString& path) {
     pressWide(driver, button::kSave);
-    ASSERT_TRUE(driver.waitForDialog("Save Terrain"));
-    driver.type(path.toStdString());
-    driver.key("Return");
+    ASSERT_TRUE(driver.nameFile("Save Terrain", path.toStdString()));
 }
 
 void limitFileSize(rlim_t bytes) {
