@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <iterator>
+#include <string_view>
 
 namespace ombrelia {
 
-// Pages, from above. Those of the tools have the tools' numbers.
+// Pages, from above: the first ones have the numbers of their places. That of a tool has the number
+// of the tool.
 namespace page {
 
 inline constexpr int kPitch = 128;  // units from one to the next
@@ -52,27 +54,25 @@ inline constexpr Row kRows[] = {
     {kColors, "Color Preferences"},
 };
 
+// The place of a page, from 0; the number itself, which lies beyond the end, if there is none.
+constexpr int indexOf(int number) {
+    int i = 0;
+    for (const Row& row : kRows) {
+        if (row.number == number) {
+            return i;
+        }
+        ++i;
+    }
+    return number;
+}
+
 }  // namespace page
 
 inline constexpr int kOptionFrames = std::size(page::kRows);
 
 namespace slider {
 
-inline constexpr int kStrip = 0;  // of the strip itself
-inline constexpr int kPencilThickness = 1;
-inline constexpr int kLineThickness = 2;
-inline constexpr int kRaiseAmount = 3;
-inline constexpr int kResolution = 4;
-inline constexpr int kDrawWidth = 5;
-inline constexpr int kMountainHeight = 6;
-inline constexpr int kMountainTop = 7;
-inline constexpr int kPlainSize = 8;
-inline constexpr int kSmoothness = 9;
-inline constexpr int kFractalHeight = 10;
-inline constexpr int kLowerAmount = 11;
-inline constexpr int kRiverWidth = 12;
-inline constexpr int kBankWidth = 13;
-inline constexpr int kDetail = 14;
+inline constexpr int kStrip = 0;      // of the strip itself
 inline constexpr int kHelpPage = 20;  // of the help window
 
 // What a readout says of its value.
@@ -90,38 +90,37 @@ struct Row {
 };
 
 inline constexpr Row kRows[] = {
-    {kPencilThickness, page::kPencil, 54, "Thickness:", "lblThick", Readout::Value, 1, 20, 1,
+    {1, page::kPencil, 54, "Thickness:", "lblThick", Readout::Value, 1, 20, 1,
      "Here you can set the width of the pencil drawing."},
-    {kLineThickness, page::kLine, 54, "Thickness:", "lblLineThick", Readout::Value, 1, 20, 1,
+    {2, page::kLine, 54, "Thickness:", "lblLineThick", Readout::Value, 1, 20, 1,
      "Here you can set the width of the line drawing."},
-    {kRaiseAmount, page::kRaise, 54, "Amount", "lblRaiseAmount", Readout::MetresOfAmount, 1, 20, 10,
+    {3, page::kRaise, 54, "Amount", "lblRaiseAmount", Readout::MetresOfAmount, 1, 20, 10,
      "Here you can set the amount that the terrain gets raised, at the clickpoint."},
-    {kResolution, page::k3DView, 22, "Resolution", "lblRes", Readout::Value, 1, 10, 4,
+    {4, page::k3DView, 22, "Resolution", "lblRes", Readout::Value, 1, 10, 4,
      "Here you can set the resolution of your 3D drawing. The higher the number, the faster the "
      "3D draw, but the quality gets worse."},
-    {kDrawWidth, page::k3DView, 42, "Draw Width", "lblWidth", Readout::Value, 1, 10, 1,
+    {5, page::k3DView, 42, "Draw Width", "lblWidth", Readout::Value, 1, 10, 1,
      "Here you can set the size and width of the lines or dots, when drawing 3D."},
-    {kMountainHeight, page::kMountain, 22, "Height", "lblHeightValue", Readout::MetresOfHeight, 50,
-     255, 255, "Here you can set the height of the mountain to make."},
-    {kMountainTop, page::kMountain, 42, "Top Size", "lblSizeValue", Readout::Value, 1, 30, 1,
+    {6, page::kMountain, 22, "Height", "lblHeightValue", Readout::MetresOfHeight, 50, 255, 255,
+     "Here you can set the height of the mountain to make."},
+    {7, page::kMountain, 42, "Top Size", "lblSizeValue", Readout::Value, 1, 30, 1,
      "Here you can set the top size of the mountain."},
-    {kPlainSize, page::kPlain, 54, "Size", "lblPlainSize", Readout::Value, 5, 30, 5,
+    {8, page::kPlain, 54, "Size", "lblPlainSize", Readout::Value, 5, 30, 5,
      "Here you can set the size of the plain to create. Keep in mind that this plain is circular."},
-    {kSmoothness, page::kFractal, 22, "Smoothness", "lblRough", Readout::Value, 1, 20, 1,
+    {9, page::kFractal, 22, "Smoothness", "lblRough", Readout::Value, 1, 20, 1,
      "Here you can set the smoothness of the fractal terrain. A setting of 1 makes almost "
      "static, and a setting of 20 makes almost 1 color."},
-    {kFractalHeight, page::kFractal, 42, "Height", "lblRoughHeight", Readout::MetresOfHeight, 20,
-     200, 60,
+    {10, page::kFractal, 42, "Height", "lblRoughHeight", Readout::MetresOfHeight, 20, 200, 60,
      "Here you can set the general height of the fractal. Keep in mind that the fractal moves "
      "up&down, so this is just the average height value."},
-    {kLowerAmount, page::kLower, 54, "Amount", "lblLowerAmount", Readout::MetresOfAmount, 1, 20, 4,
+    {11, page::kLower, 54, "Amount", "lblLowerAmount", Readout::MetresOfAmount, 1, 20, 4,
      "Here you can set the amount that the terrain gets lowered, at the clickpoint."},
-    {kRiverWidth, page::kCanyon, 22, "River Width", "lblRiverWidth", Readout::Value, 2, 15, 3,
+    {12, page::kCanyon, 22, "River Width", "lblRiverWidth", Readout::Value, 2, 15, 3,
      "Here you can set the width of the river that is generated, if you choose to have one."},
-    {kBankWidth, page::kCanyon, 42, "Bank Width", "lblBankWidth", Readout::Value, 3, 25, 10,
+    {13, page::kCanyon, 42, "Bank Width", "lblBankWidth", Readout::Value, 3, 25, 10,
      "Here you can set the width of the river bank, which is generated regardless of whether or "
      "not a river is present."},
-    {kDetail, page::kFractal, 62, "Detail", "lblDetail", Readout::Value, 1, 8, 5,
+    {14, page::kFractal, 62, "Detail", "lblDetail", Readout::Value, 1, 8, 5,
      "Here you can set the detail level of the fractal. Use 1 to make a very simple terrain, or "
      "use 8 to make a very complex one."},
 };
@@ -129,26 +128,46 @@ inline constexpr Row kRows[] = {
 inline constexpr int kFirst = 1;
 inline constexpr int kLast = std::size(kRows);
 
+// The slider with this caption on a page. Does not compile without one.
+consteval int number(int page, std::string_view caption) {
+    for (const Row& row : kRows) {
+        if (row.page == page && row.caption == caption) {
+            return row.number;
+        }
+    }
+    throw caption;
+}
+
+inline constexpr int kPencilThickness = number(page::kPencil, "Thickness:");
+inline constexpr int kLineThickness = number(page::kLine, "Thickness:");
+inline constexpr int kRaiseAmount = number(page::kRaise, "Amount");
+inline constexpr int kResolution = number(page::k3DView, "Resolution");
+inline constexpr int kDrawWidth = number(page::k3DView, "Draw Width");
+inline constexpr int kMountainHeight = number(page::kMountain, "Height");
+inline constexpr int kMountainTop = number(page::kMountain, "Top Size");
+inline constexpr int kPlainSize = number(page::kPlain, "Size");
+inline constexpr int kSmoothness = number(page::kFractal, "Smoothness");
+inline constexpr int kFractalHeight = number(page::kFractal, "Height");
+inline constexpr int kLowerAmount = number(page::kLower, "Amount");
+inline constexpr int kRiverWidth = number(page::kCanyon, "River Width");
+inline constexpr int kBankWidth = number(page::kCanyon, "Bank Width");
+inline constexpr int kDetail = number(page::kFractal, "Detail");
+
 // The row of a slider of the pages; throws MissingPartFailure for a number that has none.
 const Row& row(int number);
 
 }  // namespace slider
 
-namespace option_strip {
-
-template <typename Rows>
-constexpr bool standInOrder(const Rows& rows, int first) {
-    for (const auto& row : rows) {
-        if (row.number != first++) {
-            return false;
+static_assert(
+    [] {
+        int next = slider::kFirst;
+        for (const slider::Row& row : slider::kRows) {
+            if (row.number != next++ || page::indexOf(row.page) >= kOptionFrames) {
+                return false;
+            }
         }
-    }
-    return true;
-}
-static_assert(standInOrder(page::kRows, 0) && standInOrder(slider::kRows, slider::kFirst),
-              "a row's place is its number");
-static_assert(slider::kLast < slider::kHelpPage, "records are kept up to the help window's");
-
-}  // namespace option_strip
+        return next <= slider::kHelpPage;
+    }(),
+    "sliders are numbered in their order, stand on pages, and have records");
 
 }  // namespace ombrelia

@@ -52,7 +52,7 @@ void SetToolsEnabled(bool enabled) {
     }
     for (const page::Row& row : page::kRows) {
         if (row.isLocked) {
-            Form1.OptFrame(row.number).Enabled = enabled;
+            Form1.OptFrame(page::indexOf(row.number)).Enabled = enabled;
         }
     }
     Form1.MapView.Enabled = enabled;

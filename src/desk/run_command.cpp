@@ -160,7 +160,7 @@ void runToolCommand(int& i) {
     if (const ButtonRow* row = button::row(i); row != nullptr && row->shows != page::kNone) {
         i = row->shows;
     }
-    ScrollToFrame(i);
+    ScrollToFrame(page::indexOf(i));
 }
 
 bool isToolCommand(int i) {

@@ -213,12 +213,9 @@ bool moveCamera(const MapPlace& at) {
 
 // Release.
 
-void releaseMountain(const MapPlace& at) {
-    operate([at] { BuildMountain(floorToInt16(at.x), floorToInt16(at.y)); });
-}
-
-void releasePlain(const MapPlace& at) {
-    operate([at] { BuildPlain(floorToInt16(at.x), floorToInt16(at.y)); });
+template <void build(std::int16_t x, std::int16_t y)>
+void buildAt(const MapPlace& at) {
+    operate([at] { build(floorToInt16(at.x), floorToInt16(at.y)); });
 }
 
 void releaseCanyon(const MapPlace& /*at*/) {
@@ -279,9 +276,12 @@ struct ReleaseRow {
     void (*release)(const MapPlace&);
 };
 constexpr ReleaseRow kReleases[] = {
-    {button::kMountain, releaseMountain}, {button::kPlain, releasePlain},
-    {button::kCanyon, releaseCanyon},     {button::kColorPicker, pickHeight},
-    {button::kPencil, releasePencil},     {button::kLine, releaseLine},
+    {button::kMountain, buildAt<BuildMountain>},
+    {button::kPlain, buildAt<BuildPlain>},
+    {button::kCanyon, releaseCanyon},
+    {button::kColorPicker, pickHeight},
+    {button::kPencil, releasePencil},
+    {button::kLine, releaseLine},
 };
 
 }  // namespace

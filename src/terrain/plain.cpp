@@ -9,8 +9,6 @@
 
 namespace ombrelia {
 
-namespace {}  // namespace
-
 void levelDisc(int x, int y, int size) {
     const std::int16_t flat = HeightMap(x, y);
     const Directions directions = wholeDegrees();

@@ -67,7 +67,7 @@ double trackWidth(const slider::Row& row, double thumbWidth) {
 
 void designSliders(Form1Window& form) {
     for (const slider::Row& row : slider::kRows) {
-        PictureBox& frame = form.OptFrame(row.page);
+        PictureBox& frame = form.OptFrame(page::indexOf(row.page));
         designLabel(form.SliderLabel.make(row.number), "SliderLabel", frame,
                     {12, row.top + 1, 74, 15}, row.caption, {});
         Image& track = form.VertFiller.make(row.number);
@@ -89,7 +89,7 @@ void designSliders(Form1Window& form) {
 void designButtons(Form1Window& form) {
     for (const ButtonRow& row : button::kRows) {
         if (row.place.page != page::kNone) {
-            designButton(form, row, form.OptFrame(row.place.page));
+            designButton(form, row, form.OptFrame(page::indexOf(row.place.page)));
         }
     }
 }

@@ -57,7 +57,9 @@ TEST_F(OptionFrames, stand_below_each_other_with_their_titles) {
 }
 
 TEST_F(OptionFrames, the_strip_ends_12_below_its_last_frame) {
-    EXPECT_EQ(most(), 128 * 14 + Form1.OptFrame(14).Height - Form1.Picture1.innerHeight() + 12);
+    constexpr int kLast = kOptionFrames - 1;
+    EXPECT_EQ(most(),
+              128 * kLast + Form1.OptFrame(kLast).Height - Form1.Picture1.innerHeight() + 12);
     EXPECT_GT(most(), 0);
     EXPECT_EQ(SliderValues(0).Orientation, 0);
     EXPECT_EQ(SliderValues(0).Min, 0);

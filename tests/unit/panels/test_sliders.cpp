@@ -23,20 +23,13 @@ struct TypedSlider {
 constexpr double kNear = 1e-4;
 
 const TypedSlider kTyped[] = {
-    {1, 1, 20, 1, "lblThick", "1"},
-    {2, 1, 20, 1, "lblLineThick", "1"},
-    {3, 1, 20, 10, "lblRaiseAmount", "130m"},
-    {4, 1, 10, 4, "lblRes", "4"},
-    {5, 1, 10, 1, "lblWidth", "1"},
-    {6, 50, 255, 255, "lblHeightValue", "2912m"},
-    {7, 1, 30, 1, "lblSizeValue", "1"},
-    {8, 5, 30, 5, "lblPlainSize", "5"},
-    {9, 1, 20, 1, "lblRough", "1"},
-    {10, 20, 200, 60, "lblRoughHeight", "377m"},
-    {11, 1, 20, 4, "lblLowerAmount", "52m"},
-    {12, 2, 15, 3, "lblRiverWidth", "3"},
-    {13, 3, 25, 10, "lblBankWidth", "10"},
-    {14, 1, 8, 5, "lblDetail", "5"},
+    {1, 1, 20, 1, "lblThick", "1"},           {2, 1, 20, 1, "lblLineThick", "1"},
+    {3, 1, 20, 10, "lblRaiseAmount", "130m"}, {4, 1, 10, 4, "lblRes", "4"},
+    {5, 1, 10, 1, "lblWidth", "1"},           {6, 50, 255, 255, "lblHeightValue", "2912m"},
+    {7, 1, 30, 1, "lblSizeValue", "1"},       {8, 5, 30, 5, "lblPlainSize", "5"},
+    {9, 1, 20, 1, "lblRough", "1"},           {10, 20, 200, 60, "lblRoughHeight", "377m"},
+    {11, 1, 20, 4, "lblLowerAmount", "52m"},  {12, 2, 15, 3, "lblRiverWidth", "3"},
+    {13, 3, 25, 10, "lblBankWidth", "10"},    {14, 1, 8, 5, "lblDetail", "5"},
 };
 
 class Sliders : public EditorTest {
