@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Tries the committed tree as somebody new does: in a fresh root of each Debian suite, its clone is
-# built and shown on a virtual screen (./run --demo) and tested (./test). Ends with a table.
+# built and shown on a virtual screen (./run --demo), tested (./test) and packed (./package). Ends
+# with a table.
 #   tools/try_suites.sh [SUITE ...]         bookworm, trixie and testing unless told otherwise
 #   CACHE=FOLDER tools/try_suites.sh ...    keeps what the compilers made in FOLDER, for the next try
 # Needs root, or a user who may make user namespaces; and the network. What was said in each root is
@@ -47,7 +48,7 @@ tell() {
 minutes() {
     printf '%d:%02d' $((SECONDS / 60)) $((SECONDS % 60))
 }
-for words in "./run --demo" ./test; do
+for words in "./run --demo" ./test ./package; do
     SECONDS=0
     if $words; then
         tell "$words" "$(minutes)"
@@ -86,12 +87,13 @@ for suite in "$@"; do
         /\(Skipped\)$/ { left++ }
         END { print all - failed - left, "of", all (left ? ", " left " left out" : "") }' \
         "build-suites/$suite.log")
-    table+=("| $suite | $(told g++) | $(told Qt) | $tests | $(told './run --demo') | $(told ./test) |")
-    [ "$(grep -cE "^TOLD ./(run --demo|test) [0-9]+:[0-9]+$" "build-suites/$suite.log")" = 2 ] || failed=yes
+    table+=("| $suite | $(told g++) | $(told Qt) | $tests | $(told './run --demo') | $(told ./test) | $(told ./package) |")
+    [ "$(grep -cE "^TOLD ./(run --demo|test|package) [0-9]+:[0-9]+$" "build-suites/$suite.log")" = 3 ] || failed=yes
     echo "${table[-1]}"
 done
 
 step "What came out"
-printf '%s\n' "| Suite | g++ | Qt | Tests | \`./run --demo\` | \`./test\` |" "|---|---|---|---|---|---|" \
+printf '%s\n' "| Suite | g++ | Qt | Tests | \`./run --demo\` | \`./test\` | \`./package\` |" \
+    "|---|---|---|---|---|---|---|" \
     "${table[@]}"
 [ "$failed" = no ]
