@@ -39,9 +39,7 @@ constexpr StepOption kStepOptions[] = {{button::kStep20, 20},
 class CellPainter {
   public:
     void paintDirtyCells(int y) {
-        if (colors_.update()) {
-            cellColors_ = CellColors(colors_.data());
-        }
+        colors_.update();
         Surface& buffer = Form1.Mapview2.Canvas;
         const auto cells = static_cast<std::size_t>(MapSize) + 1;
         const bool hasPixels = y < buffer.height();
@@ -53,7 +51,7 @@ class CellPainter {
         }
         if (colors_.isComplete() && isInRange(row)) {
             takeLastColor(row);
-            paintCells(row, cellColors_);
+            paintCells(row, colors_.data());
         } else {
             paintOneByOne(row);
         }
@@ -103,7 +101,6 @@ class CellPainter {
     }
 
     ColorLookup colors_;
-    CellColors cellColors_;
     Pixel last_ = pixelOf(rgb(0, 0, 0));
 };
 

@@ -55,7 +55,7 @@ void paintOneByOne(RowOfChance& chance) {
 }  // namespace
 
 TEST(CellRow, each_way_paints_what_a_look_at_each_cell_paints) {
-    for (const Vectors vectors : {Vectors::Narrow, Vectors::Avx2, Vectors::Avx512}) {
+    for (const Vectors vectors : {Vectors::Narrow, Vectors::Avx2}) {
         const LesserProcessor processor(vectors);
         for (std::uint32_t seed = 0; seed < 200; ++seed) {
             const std::size_t cells = 1 + seed * 7 % 258;
@@ -63,7 +63,7 @@ TEST(CellRow, each_way_paints_what_a_look_at_each_cell_paints) {
             RowOfChance expected(seed, cells, columns, 1 + seed % 5);
             RowOfChance actual = expected;
             paintOneByOne(expected);
-            paintCells(actual.row(), CellColors(actual.colors.data()));
+            paintCells(actual.row(), actual.colors.data());
             ASSERT_EQ(actual.pixels, expected.pixels) << "seed " << seed;
             ASSERT_EQ(actual.shadows, expected.shadows) << "seed " << seed;
         }
