@@ -85,9 +85,9 @@ std::string metresText(int height) {
     return std::to_string((height - kMetreOrigin) * kMetresPerStep) + "m";
 }
 
-bool ColorLookup::update() {
+void ColorLookup::update() {
     if (isFilled_ && table_ == ColorRange) {
-        return false;
+        return;
     }
     table_ = ColorRange;
     isFilled_ = true;
@@ -98,7 +98,6 @@ bool ColorLookup::update() {
         takeRow(row);
     }
     isComplete_ = std::find(hasColor_.begin(), hasColor_.end(), false) == hasColor_.end();
-    return true;
 }
 
 void ColorLookup::takeRow(int row) {

@@ -27,8 +27,8 @@ std::string metresText(int height);
 // All 256 heights looked up at once, for loops over many cells: the same colours as HeightToRGB.
 class ColorLookup {
   public:
-    // Looks everything up anew if ColorRange differs from the last time; true if it does.
-    bool update();
+    // Looks everything up anew if ColorRange differs from the last time.
+    void update();
 
     bool hasColor(int height) const { return hasColor_[static_cast<std::size_t>(height)]; }
     Pixel pixel(int height) const { return pixels_[static_cast<std::size_t>(height)]; }

@@ -25,8 +25,7 @@ namespace {
 
 constexpr long kLowest16 = std::numeric_limits<std::int16_t>::min();
 constexpr long kHighest16 = std::numeric_limits<std::int16_t>::max();
-constexpr int kLastRecord = 100;
-constexpr int kLastSlider = 20;
+constexpr int kLastRecord = decltype(OptionStates)::kHigh;
 constexpr std::int16_t kYes = -1;
 
 std::int16_t number16(const std::string& text) {
@@ -54,7 +53,7 @@ void run(Session& /*session*/, const Fields& fields) {
 
 void setSlider(Session& /*session*/, const Fields& fields) {
     checkLoaded(Form1);
-    const auto slider = static_cast<int>(wholeNumber(fields[0], 0, kLastSlider));
+    const auto slider = static_cast<int>(wholeNumber(fields[0], 0, decltype(SliderValues)::kHigh));
     SliderValues(slider).Value = number16(fields[1]);
     runHandler([slider] { PlaceSlider(slider); });
 }

@@ -36,7 +36,6 @@ inline constexpr Color kPaletteIndexFlag = 0x1000000;
 
 // What a screen with a palette is asked for.
 struct MazePalette {
-    static constexpr std::uint16_t kVersion = 0x300;
     static constexpr std::uint8_t kNoCollapse = 4;  // a colour of its own, whatever others have
     struct Entry {
         std::uint8_t red, green, blue, flags;

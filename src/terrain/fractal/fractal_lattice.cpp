@@ -178,12 +178,6 @@ double meanOf(const std::vector<double>& values, int points) {
 
 }  // namespace
 
-double AverageSquareCorners(int i, int j, int s, int S, const double* v) {
-    return (v[j - s + S * (i - s)] + v[j + s + S * (i - s)] + v[j - s + S * (i + s)] +
-            v[j - s + S * (i + s)]) *
-           0.25;
-}
-
 double AverageDiamondNeighbours(int i, int j, int s, int S, int E, const double* v) {
     const auto rowBase = static_cast<int>(2 * roundToEven((i / 2.0) * S));
     // Required: the edges weigh only their last term (edge_averages_are_three_times_too_high).

@@ -7,11 +7,7 @@
 
 namespace ombrelia {
 
-// Average for the middle of a square at (i, j); corners stand s away; S points a row. The lower
-// left corner counts twice and the lower right one never.
-double AverageSquareCorners(int i, int j, int s, int S, const double* v);
-
-// Average for the middle of a diamond at (i, j); E = S - 1 is the lattice's last subscript.
+// Average for the middle of a diamond at (i, j), whose corners stand s away; S points a row, E = S - 1 is the lattice's last subscript.
 double AverageDiamondNeighbours(int i, int j, int s, int S, int E, const double* v);
 
 // Fills the lattice of cells + 1 points a side, level by level. seed is not used. h: decay of the

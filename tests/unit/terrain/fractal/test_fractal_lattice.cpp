@@ -25,14 +25,6 @@ double at(int i, int j) {
     return static_cast<double>(1L << (j + 5 * i));
 }
 
-TEST(FractalLattice, the_lower_left_corner_counts_twice) {
-    const auto v = tellingValues();
-    EXPECT_EQ(AverageSquareCorners(2, 2, 2, 5, v.data()),
-              (at(0, 0) + at(0, 4) + 2 * at(4, 0)) * 0.25);
-    EXPECT_EQ(AverageSquareCorners(1, 3, 1, 5, v.data()),
-              (at(0, 2) + at(0, 4) + 2 * at(2, 2)) * 0.25);
-}
-
 TEST(FractalLattice, edge_averages_are_three_times_too_high) {
     const auto v = tellingValues();
     EXPECT_EQ(AverageDiamondNeighbours(0, 2, 2, 5, 4, v.data()),
