@@ -249,6 +249,7 @@ void polygonCells(benchmark::State& state) {
 }
 
 void mazeSide(benchmark::State& state) {
+    using namespace ombrelia::maze;
     benchDesk(kMiniatureSize);
     NumColumns = NumRows = static_cast<std::int16_t>(argumentOf(state));
     completeMazeSize(MazeStyle::Square);

@@ -16,7 +16,7 @@
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -167,4 +167,4 @@ BENCHMARK(paintMaze)->ArgName("hex")->Arg(0)->Arg(1)->Unit(benchmark::kMicroseco
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -12,7 +12,7 @@
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -87,4 +87,4 @@ BENCHMARK(qPainterCrossFade)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

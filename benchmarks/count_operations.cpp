@@ -78,6 +78,7 @@ void writePicture() {
 }
 
 void openMaze() {
+    using namespace ombrelia::maze;
     NumColumns = 60;
     NumRows = 40;
     completeMazeSize(MazeStyle::Square);
@@ -85,6 +86,7 @@ void openMaze() {
 }
 
 void tryMazes() {
+    using namespace ombrelia::maze;
     constexpr int kCandidates = 8;
     SeedDigits digits{1, 2, 3, 4, 5, 6, 7, 8};
     for (int n = 0; n < kCandidates; ++n) {

@@ -160,7 +160,7 @@ const Binding kBindings[] = {
     {&HelpBox.LTool, Event::Click, HelpBox_ButtonClick},
     {&HelpBox.LinkLbl, Event::Click, HelpBox_LinkClick},
     {&HelpBox.ContLbl, Event::Click, HelpBox_ContentsClick},
-    {&HelpBox.Label41, Event::DblClick, Label41_DblClick},
+    {&HelpBox.Label41, Event::DblClick, worm::Label41_DblClick},
     {&HelpBox.ToolName, Event::Click, HelpBox_ToolClick},
     {&HelpBox.ToolPic, Event::Click, HelpBox_ToolClick},
     {&HelpBox.Scroller, Event::MouseDown, HelpBox_ScrollerDown},
@@ -171,22 +171,22 @@ const Binding kBindings[] = {
     {&HelpBox.ScrollDown, Event::MouseDown, HelpBox_ArrowDown},
     {&HelpBox.ScrollDown, Event::MouseUp, HelpBox_ArrowUp},
 
-    {&frm3DMaze, Event::Load, frm3DMaze_Load},
-    {&frm3DMaze, Event::Unload, frm3DMaze_Unload},
-    {&frm3DMaze, Event::Resize, frm3DMaze_Resize},
-    {&frm3DMaze, Event::Paint, frm3DMaze_Paint},
-    {&frm3DMaze, Event::KeyDown, frm3DMaze_KeyDown},
-    {&frm3DMaze.Timer1, Event::Timer, frm3DMaze_Timer},
-    {&frm3DMaze.VScroll1, Event::Change, VScroll1_Change},
-    {&frm3DMaze.VScroll1, Event::Scroll, VScroll1_Scroll},
-    {&frm3DMaze.mnuActionItem, Event::Click, mnuActionItem_Click},
-    {&frm3DMaze.mnuStyleItem, Event::Click, mnuStyleItem_Click},
-    {&frm3DMaze.mnuHelpItem, Event::Click, mnuHelpItem_Click},
+    {&frm3DMaze, Event::Load, maze::frm3DMaze_Load},
+    {&frm3DMaze, Event::Unload, maze::frm3DMaze_Unload},
+    {&frm3DMaze, Event::Resize, maze::frm3DMaze_Resize},
+    {&frm3DMaze, Event::Paint, maze::frm3DMaze_Paint},
+    {&frm3DMaze, Event::KeyDown, maze::frm3DMaze_KeyDown},
+    {&frm3DMaze.Timer1, Event::Timer, maze::frm3DMaze_Timer},
+    {&frm3DMaze.VScroll1, Event::Change, maze::VScroll1_Change},
+    {&frm3DMaze.VScroll1, Event::Scroll, maze::VScroll1_Scroll},
+    {&frm3DMaze.mnuActionItem, Event::Click, maze::mnuActionItem_Click},
+    {&frm3DMaze.mnuStyleItem, Event::Click, maze::mnuStyleItem_Click},
+    {&frm3DMaze.mnuHelpItem, Event::Click, maze::mnuHelpItem_Click},
 
-    {&Form2, Event::Load, Form2_Load},
-    {&Form2, Event::KeyDown, Form2_KeyDown},
-    {&Form2.Label2, Event::KeyDown, Form2_KeyDown},
-    {&Form2.Timer1, Event::Timer, Form2_Timer},
+    {&Form2, Event::Load, worm::Form2_Load},
+    {&Form2, Event::KeyDown, worm::Form2_KeyDown},
+    {&Form2.Label2, Event::KeyDown, worm::Form2_KeyDown},
+    {&Form2.Timer1, Event::Timer, worm::Form2_Timer},
 };
 
 }  // namespace
@@ -202,9 +202,9 @@ const std::vector<ValueRow>& allValues() {
         std::vector<ValueRow> rows = coreValues();
         const std::vector<ValueRow> fractal = fractalValues();
         rows.insert(rows.end(), fractal.begin(), fractal.end());
-        const std::vector<ValueRow> maze = mazeValues();
+        const std::vector<ValueRow> maze = maze::mazeValues();
         rows.insert(rows.end(), maze.begin(), maze.end());
-        const std::vector<ValueRow> worm = wormValues();
+        const std::vector<ValueRow> worm = worm::wormValues();
         rows.insert(rows.end(), worm.begin(), worm.end());
         return rows;
     }();
@@ -238,7 +238,7 @@ void resetProcess() {
     for (const ValueRow& row : allValues()) {
         row.reset();
     }
-    releaseMaze();
+    maze::releaseMaze();
     for (Window* window : allWindows()) {
         window->Loaded = false;
         window->Visible = false;

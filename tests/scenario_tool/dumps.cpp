@@ -102,7 +102,7 @@ void dumpCalls(const Session& session, const Fields& /*none*/, std::ostream& out
 
 namespace {
 
-void writePage(const MazeGrid& page, std::ostream& out) {
+void writePage(const maze::MazeGrid& page, std::ostream& out) {
     for (int y = 0; y <= page.maxY(); ++y) {
         for (int x = 0; x <= page.maxX(); ++x) {
             out << static_cast<int>(page(x, y));
@@ -114,15 +114,16 @@ void writePage(const MazeGrid& page, std::ostream& out) {
 }  // namespace
 
 void dumpMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
-    out << RoomsInSolution << " " << Adjacency << "\n";
-    writePage(MazePage, out);
+    out << maze::RoomsInSolution << " " << maze::Adjacency << "\n";
+    writePage(maze::MazePage, out);
 }
 
 void dumpUserMaze(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
-    writePage(UserPage, out);
+    writePage(maze::UserPage, out);
 }
 
 void dumpWorm(const Session& /*session*/, const Fields& /*none*/, std::ostream& out) {
+    using namespace ombrelia::worm;
     constexpr int kLastCell = 16;
     const int cell = std::max<int>(1, CellSize);
     out << HeadX << " " << HeadY << " " << Heading << " " << WormLength << " " << Lives << " "

@@ -124,6 +124,7 @@ void assign(Session& session, const Fields& fields) {
 
 // STYLE COLUMNS ROWS DIGITS
 void maze(Session& /*session*/, const Fields& fields) {
+    using namespace ombrelia::maze;
     constexpr long kLeast = 2;
     if (fields[0] != "square" && fields[0] != "hex") {
         throw LineError{"a maze is square or hex"};

@@ -13,7 +13,7 @@
 #include "games/maze/maze_track.h"
 #include "stories.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -226,4 +226,4 @@ TEST(MazeWindow, a_drag_of_the_bar_tilts_the_maze) {
     });
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

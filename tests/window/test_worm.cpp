@@ -13,7 +13,7 @@
 #include "platform/services.h"
 #include "stories.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -153,4 +153,4 @@ TEST(WormWindow, a_game_that_ends_under_a_dialog_leaves_it_alone) {
     });
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

@@ -83,9 +83,9 @@ void takeWorm(const Album& album) {
     ScreenDriver& driver = album.driver;
     driver.doubleClick(HelpBox.Label41);
     driver.waitForWindow(Form2);
-    driver.waitFor([] { return HeadX >= 8; });
+    driver.waitFor([] { return worm::HeadX >= 8; });
     driver.key("Down");
-    driver.waitFor([] { return HeadY >= 6; });
+    driver.waitFor([] { return worm::HeadY >= 6; });
     album.add("worm", Form2);
     driver.key("alt+F4");
     driver.waitFor([] { return !Form2.Loaded; });
@@ -103,7 +103,8 @@ void takeMaze(const Album& album) {
     driver.release();
     driver.waitForWindow(frm3DMaze);
     driver.rest(600);
-    driver.waitFor([] { return DrawState == kMazeReady && TimerRunning == kMazeNo; });
+    driver.waitFor(
+        [] { return maze::DrawState == maze::kMazeReady && maze::TimerRunning == maze::kMazeNo; });
     album.add("maze", frm3DMaze);
 }
 

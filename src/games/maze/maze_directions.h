@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <utility>
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // In world units a square room is 1 wide and a hexagon has sides of 1.
 inline constexpr double kRoot3 = 1.7320508075688772;
@@ -92,4 +92,4 @@ extern const MazeOrders<6, kHexOrderCount> kHexOrders;
 extern const MazeFirsts<4, kSquareOrderCount> kSquareFirsts;
 extern const MazeFirsts<6, kHexOrderCount> kHexFirsts;
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

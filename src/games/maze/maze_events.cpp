@@ -14,7 +14,7 @@
 #include "platform/services.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -283,4 +283,4 @@ void mnuHelpItem_Click(EventArgs& /*args*/) {
     services().dialogs->message(kAboutText, kOkBox, kDefaultTitle);
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

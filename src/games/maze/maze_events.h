@@ -5,7 +5,7 @@
 
 #include "platform/control.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 void frm3DMaze_Load(EventArgs& args);
 void frm3DMaze_Unload(EventArgs& args);
@@ -22,4 +22,4 @@ void mnuHelpItem_Click(EventArgs& args);
 // A time of day as text: seven significant digits, a blank in front unless it is negative.
 std::string clockText(float seconds);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

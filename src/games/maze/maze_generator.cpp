@@ -6,7 +6,7 @@
 #include "games/maze/maze_directions.h"
 #include "platform/numeric.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -204,4 +204,4 @@ void GenerateMaze(MazeStyle style, const SeedDigits& digits) {
     }
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

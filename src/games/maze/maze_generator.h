@@ -4,7 +4,7 @@
 #include "games/maze/maze_seed.h"
 #include "games/maze/maze_state.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // Sets NumColumns, NumRows, MaxX, MaxY and NumRooms for an inner size in twips, bar and text line
 // taken off. Throws OverflowFailure for a width of 0 and for more rooms than 16 bits count.
@@ -19,4 +19,4 @@ void allocateMaze();
 // Carves MazePage, which has the size in force, from eight digits.
 void GenerateMaze(MazeStyle style, const SeedDigits& digits);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

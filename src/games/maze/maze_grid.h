@@ -9,7 +9,7 @@
 
 #include "platform/failure.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // Values of a cell.
 inline constexpr std::uint8_t kMazeWall = 0;   // or a room that the carver has not reached
@@ -79,4 +79,4 @@ class MazeGrid {
     std::vector<std::uint8_t> cells_;
 };
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

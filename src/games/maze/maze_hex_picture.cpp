@@ -2,7 +2,7 @@
 #include "games/maze/maze_picture.h"
 #include "games/maze/maze_view.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -188,4 +188,4 @@ void paintHexRow() {
     }
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

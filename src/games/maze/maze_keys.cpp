@@ -6,7 +6,7 @@
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_track.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -115,4 +115,4 @@ void frm3DMaze_KeyDown(EventArgs& args) {
     }
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -3,7 +3,7 @@
 
 #include "games/maze/maze_view.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -111,4 +111,4 @@ void paintMazeSlice(MazeStyle style) {
     }
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

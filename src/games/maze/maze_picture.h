@@ -3,7 +3,7 @@
 
 #include "games/maze/maze_state.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // The first slice: templates, and the floor of the square style. Sets DrawState to the next one's.
 void beginMazePicture(MazeStyle style);
@@ -18,4 +18,4 @@ void paintHexBands();
 void paintHexCaps();
 void paintHexRow();
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -59,4 +59,4 @@ void IncrementSeed(SeedDigits& digits) {
     }
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

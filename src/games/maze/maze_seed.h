@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // p0 first.
 using SeedDigits = std::array<std::uint8_t, 8>;
@@ -51,4 +51,4 @@ class MazeRandom {
     int sum_ = 0;
 };
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -9,7 +9,7 @@
 #include "games/maze/maze_generator.h"
 #include "platform/services.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -195,4 +195,4 @@ void CreateMaze(const std::string& seedString, MazeStyle style, double seconds) 
     SolveMaze(style, RoomsInSolution, Adjacency);
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -5,7 +5,7 @@
 
 #include "games/maze/maze_state.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // Marks the solution of a carved MazePage with kMazeTrack, all else that is open with kMazeOpen.
 // roomsInSolution: rooms on it, both ends included; adjacency: walls that a room of it shares with
@@ -20,4 +20,4 @@ void CreateMaze(const std::string& seedString, MazeStyle style, double seconds);
 // Time that CreateMaze is given.
 inline constexpr double kMazeSearchSeconds = 0.25;
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -1,6 +1,6 @@
 #include "games/maze/maze_state.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 std::int16_t NumColumns = 0;
 std::int16_t NumRows = 0;
@@ -93,4 +93,4 @@ std::vector<ValueRow> mazeValues() {
     };
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -9,7 +9,7 @@
 #include "games/maze/maze_grid.h"
 #include "platform/checked_array.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 enum class MazeStyle { Square, Hexagonal };
 
@@ -89,4 +89,4 @@ std::vector<ValueRow> mazeValues();
 // Takes the pages and the stack away.
 void releaseMaze();
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

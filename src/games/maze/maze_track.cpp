@@ -2,7 +2,7 @@
 
 #include "core/windows/maze_window.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -210,4 +210,4 @@ void drawSolution(MazeStyle style) {
     }
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

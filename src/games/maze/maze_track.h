@@ -6,7 +6,7 @@
 #include "games/maze/maze_directions.h"
 #include "games/maze/maze_view.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // The style that the menu has checked.
 MazeStyle styleInUse();
@@ -29,4 +29,4 @@ void drawUserTrack(MazeStyle style);
 // From the entrance to the exit, along the solution's cells.
 void drawSolution(MazeStyle style);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

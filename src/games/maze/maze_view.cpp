@@ -7,7 +7,7 @@
 #include "platform/numeric.h"
 #include "platform/services.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -208,4 +208,4 @@ void DrawCornerFront(const MazeTriangle& triangle, int color) {
     FillFlat(triangle, kWallHeight, kShadeTop);
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -10,7 +10,7 @@
 #include "platform/color.h"
 #include "platform/surface.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 struct MazeCorner {
     double x, y;
@@ -101,4 +101,4 @@ void DrawBlockSides(const MazeQuad& quad);
 void DrawCornerSides(const MazeTriangle& triangle);
 void DrawCornerFront(const MazeTriangle& triangle, int color);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

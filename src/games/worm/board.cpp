@@ -4,7 +4,7 @@
 #include "games/worm/worm_state.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -126,4 +126,4 @@ void paintCell(int x, int y, Color color) {
     Form2.Picture1.Canvas.box(left, top, left + CellSize - 1, top + CellSize - 1, color);
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

@@ -3,7 +3,7 @@
 
 #include "platform/color.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 // The last level with walls of its own inside.
 inline constexpr int kLastBarredLevel = 4;
@@ -19,4 +19,4 @@ void ShowBoard();
 // Fills a cell of the window's ground; nothing of it outside the window.
 void paintCell(int x, int y, Color color);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

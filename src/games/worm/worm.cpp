@@ -13,7 +13,7 @@
 #include "platform/services.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -270,4 +270,4 @@ void Label41_DblClick(EventArgs& /*args*/) {
     openWormGame();
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

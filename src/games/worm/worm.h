@@ -3,7 +3,7 @@
 
 #include "platform/control.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 // Opens the game's window; a game that is open goes on.
 void openWormGame();
@@ -24,4 +24,4 @@ void Form2_Timer(EventArgs& args);
 void Form2_KeyDown(EventArgs& args);
 void Label41_DblClick(EventArgs& args);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

@@ -1,6 +1,6 @@
 #include "games/worm/worm_state.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 std::int16_t CellSize = 0;
 std::int16_t BoardSize = 0;
@@ -58,4 +58,4 @@ std::vector<ValueRow> wormValues() {
     };
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

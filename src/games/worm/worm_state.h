@@ -8,7 +8,7 @@
 #include "core/value_row.h"
 #include "platform/checked_array.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 // What a cell holds.
 enum WormCell : std::int16_t { kCellEmpty = 0, kCellWorm = 1, kCellWall = 2 };
@@ -52,4 +52,4 @@ void resetWormState();
 // The rows of this folder's values.
 std::vector<ValueRow> wormValues();
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

@@ -5,7 +5,7 @@
 #include "games/maze/maze_track.h"
 #include "platform/dispatch.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 struct KeyOf {
     int code, padCode;
@@ -87,4 +87,4 @@ class MazePlay : public MazeTest {
 
 inline constexpr MazeStyle kStyles[] = {MazeStyle::Square, MazeStyle::Hexagonal};
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

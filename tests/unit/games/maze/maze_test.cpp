@@ -5,7 +5,7 @@
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 void NotingPainter::fill(std::span<const PixelPoint> corners, Color brush) {
     std::ostringstream text;
@@ -61,4 +61,4 @@ void MazeTest::key(int code) {
     deliver(frm3DMaze, Event::KeyDown, args);
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -9,7 +9,7 @@
 #include "games/maze/maze_state.h"
 #include "games/maze/maze_view.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 // A line of text for everything that is painted.
 class NotingPainter : public MazePainter {
@@ -43,4 +43,4 @@ class MazeTest : public ProcessTest {
     NotingPainter painter;
 };
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

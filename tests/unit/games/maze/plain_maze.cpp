@@ -3,7 +3,7 @@
 #include <cmath>
 #include <functional>
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -328,4 +328,4 @@ PlainMaze plainCreate(PlainMaze maze, const std::string& seed, int candidates) {
     return maze;
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

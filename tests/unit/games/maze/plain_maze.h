@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 using PlainDigits = std::array<int, 8>;
 
@@ -56,4 +56,4 @@ void plainSolve(PlainMaze& maze);
 // The best of this many candidates from a seed text.
 PlainMaze plainCreate(PlainMaze size, const std::string& seed, int candidates);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <sstream>
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -266,4 +266,4 @@ std::vector<std::string> plainPicture(const PlainMaze& maze, int widthPixels, in
     return picture.faces;
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -7,9 +7,9 @@
 
 #include "games/maze/plain_maze.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 std::vector<std::string> plainPicture(const PlainMaze& maze, int widthPixels, int heightPixels,
                                       double tiltDegrees);
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

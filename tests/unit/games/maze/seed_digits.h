@@ -6,7 +6,7 @@
 #include "games/maze/maze_seed.h"
 #include "games/maze/plain_maze.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 inline PlainDigits plain(const SeedDigits& digits) {
     PlainDigits out;
@@ -14,4 +14,4 @@ inline PlainDigits plain(const SeedDigits& digits) {
     return out;
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

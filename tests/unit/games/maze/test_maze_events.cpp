@@ -6,7 +6,7 @@
 #include "games/maze/maze_play_test.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -236,4 +236,4 @@ TEST_F(MazePlay, the_clocks_text_has_a_blank_and_seven_digits) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -11,7 +11,7 @@
 #include "games/maze/seed_digits.h"
 #include "platform/failure.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -222,4 +222,4 @@ TEST_F(MazeMaking, a_clock_that_falls_back_at_midnight_ends_the_search) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -2,7 +2,7 @@
 
 #include "games/maze/maze_grid.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -32,4 +32,4 @@ TEST(MazeGridPage, the_rim_reads_as_track) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -4,7 +4,7 @@
 #include "games/maze/maze_events.h"
 #include "games/maze/maze_play_test.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -204,4 +204,4 @@ TEST_F(MazePlay, b_before_the_first_tick_draws_nothing) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

@@ -5,7 +5,7 @@
 #include "games/maze/plain_maze.h"
 #include "games/maze/seed_digits.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -94,4 +94,4 @@ TEST(MazeDirections, all_orders_agree_with_nested_choices) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

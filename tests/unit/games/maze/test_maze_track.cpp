@@ -6,7 +6,7 @@
 #include "games/maze/maze_play_test.h"
 #include "platform/window_life.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -128,4 +128,4 @@ TEST_F(MazeTrack, the_window_sets_the_number_of_rooms) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

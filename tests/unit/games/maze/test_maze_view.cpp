@@ -5,7 +5,7 @@
 #include "games/maze/plain_maze_picture.h"
 #include "platform/dispatch.h"
 
-namespace ombrelia {
+namespace ombrelia::maze {
 
 namespace {
 
@@ -169,4 +169,4 @@ TEST_F(MazeView, a_block_on_the_centre_line_shows_no_side) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::maze

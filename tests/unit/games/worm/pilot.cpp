@@ -8,7 +8,7 @@
 #include "core/windows/form2.h"
 #include "games/worm/worm_state.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -70,4 +70,4 @@ int keyToFood() {
     return key;
 }
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

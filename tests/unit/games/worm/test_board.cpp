@@ -3,7 +3,7 @@
 #include "games/worm/board.h"
 #include "games/worm/worm_test.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -141,4 +141,4 @@ TEST_F(WormBoard, an_old_wall_falls_from_green) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

@@ -7,7 +7,7 @@
 #include "games/worm/worm_test.h"
 #include "platform/failure.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -411,4 +411,4 @@ TEST_F(Worm, the_map_is_not_touched) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

@@ -6,7 +6,7 @@
 #include "games/worm/plain_worm.h"
 #include "games/worm/worm_test.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 namespace {
 
@@ -145,4 +145,4 @@ TEST_F(WormPlay, the_board_holds_no_more_worm_than_its_length) {
 
 }  // namespace
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm

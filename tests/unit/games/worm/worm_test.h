@@ -8,7 +8,7 @@
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
 
-namespace ombrelia {
+namespace ombrelia::worm {
 
 class WormTest : public ProcessTest {
   protected:
@@ -58,4 +58,4 @@ class WormTest : public ProcessTest {
     }
 };
 
-}  // namespace ombrelia
+}  // namespace ombrelia::worm
