@@ -1,11 +1,11 @@
 #include "bench_desk.h"
 
-#include "app/bindings.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
 #include "platform/yield_clock.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

@@ -15,15 +15,11 @@
 #include "desk/map_gestures.h"
 #include "desk/startup.h"
 #include "games/maze/maze_events.h"
-#include "games/maze/maze_state.h"
 #include "games/worm/worm.h"
-#include "games/worm/worm_state.h"
 #include "panels/color_editor.h"
 #include "panels/help_box.h"
 #include "panels/hints.h"
 #include "platform/dispatch.h"
-#include "platform/pointer.h"
-#include "terrain/fractal/fractal_state.h"
 
 namespace ombrelia {
 
@@ -197,20 +193,6 @@ const std::vector<Window*>& allWindows() {
     return windows;
 }
 
-const std::vector<ValueRow>& allValues() {
-    static const std::vector<ValueRow> values = [] {
-        std::vector<ValueRow> rows = coreValues();
-        const std::vector<ValueRow> fractal = fractalValues();
-        rows.insert(rows.end(), fractal.begin(), fractal.end());
-        const std::vector<ValueRow> maze = maze::mazeValues();
-        rows.insert(rows.end(), maze.begin(), maze.end());
-        const std::vector<ValueRow> worm = worm::wormValues();
-        rows.insert(rows.end(), worm.begin(), worm.end());
-        return rows;
-    }();
-    return values;
-}
-
 std::vector<BoundRow> boundRows() {
     std::vector<BoundRow> rows;
     for (const Binding& row : kBindings) {
@@ -232,23 +214,6 @@ void bindEvents() {
         });
     }
     setStopRequest(requestStop);
-}
-
-void resetProcess() {
-    for (const ValueRow& row : allValues()) {
-        row.reset();
-    }
-    maze::releaseMaze();
-    for (Window* window : allWindows()) {
-        window->Loaded = false;
-        window->Visible = false;
-        window->Minimized = false;
-        window->PointerX = -1;
-        window->PointerY = -1;
-    }
-    resetDispatch();
-    resetPointer();
-    bindEvents();
 }
 
 }  // namespace ombrelia

@@ -3,7 +3,6 @@
 
 #include <vector>
 
-#include "core/value_row.h"
 #include "platform/control.h"
 
 namespace ombrelia {
@@ -20,11 +19,5 @@ void bindEvents();
 
 // All windows of the program.
 const std::vector<Window*>& allWindows();
-
-// All values of the process by name.
-const std::vector<ValueRow>& allValues();
-
-// Every value, window and handler as in a new process. The settings store is not touched.
-void resetProcess();
 
 }  // namespace ombrelia

@@ -1,5 +1,5 @@
 // The tables and values of the process. They outlive every window. Each line: unit or range, and
-// who writes it. The names are listed once more in core_values.cpp, which resets them all.
+// who writes it. All begin at 0; tests name and reset them through tests/register.
 #pragma once
 
 #include <array>

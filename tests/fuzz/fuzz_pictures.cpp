@@ -4,7 +4,6 @@
 #include <QImageReader>
 #include <cstdlib>
 
-#include "app/bindings.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "desk/run_command.h"
@@ -17,6 +16,7 @@
 #include "platform/messages.h"
 #include "platform/qt/picture_loader.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "app/bindings.h"
 #include "core/color_sets.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
@@ -13,6 +12,7 @@
 #include "platform/headless/headless_platform.h"
 #include "platform/ini_store.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "register/value_row.h"
+
 namespace ombrelia::scenario {
 
 namespace {

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "core/value_row.h"
 #include "names.h"
+#include "register/value_row.h"
 
 namespace ombrelia::scenario {
 

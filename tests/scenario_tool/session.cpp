@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/bindings.h"
 #include "command.h"
 #include "core/windows/form1.h"
 #include "desk/startup.h"
 #include "errors.h"
 #include "platform/dispatch.h"
+#include "register/reset_process.h"
 #include "ticks.h"
 
 namespace ombrelia::scenario {

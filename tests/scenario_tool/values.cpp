@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/bindings.h"
 #include "errors.h"
 #include "fields.h"
 #include "names.h"
 #include "properties.h"
+#include "register/value_row.h"
 
 namespace ombrelia::scenario {
 

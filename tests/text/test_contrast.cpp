@@ -8,7 +8,6 @@
 #include <set>
 #include <vector>
 
-#include "app/bindings.h"
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/editor_state.h"
@@ -24,6 +23,7 @@
 #include "platform/headless/headless_platform.h"
 #include "platform/qt/window_painter.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 #include "views/view_mode.h"
 
 namespace ombrelia {

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "app/bindings.h"
 #include "core/button_table.h"
 #include "core/color_ramp.h"
 #include "core/objects.h"
@@ -19,6 +18,7 @@
 #include "platform/headless/headless_platform.h"
 #include "platform/qt/label_text.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

@@ -6,6 +6,7 @@
 
 #include "app/bindings.h"
 #include "platform/dispatch.h"
+#include "register/value_row.h"
 
 namespace ombrelia::two_ways {
 

@@ -1,9 +1,9 @@
 #include "editor_fixture.h"
 
-#include "app/bindings.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

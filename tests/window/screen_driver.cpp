@@ -20,6 +20,7 @@
 #include "platform/dispatch.h"
 #include "platform/qt/qt_program.h"
 #include "platform/qt/window_view.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

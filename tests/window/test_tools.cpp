@@ -2,13 +2,13 @@
 // without a screen.
 #include <gtest/gtest.h>
 
-#include "app/bindings.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "platform/dispatch.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 #include "stories.h"
 
 namespace ombrelia {

@@ -52,45 +52,4 @@ void releaseMaze() {
     MazePage.release();
 }
 
-std::vector<ValueRow> mazeValues() {
-    return {
-        valueRow("NumColumns", NumColumns),
-        valueRow("NumRows", NumRows),
-        valueRow("MaxX", MaxX),
-        valueRow("MaxY", MaxY),
-        valueRow("NumRooms", NumRooms),
-        valueRow("RoomsInSolution", RoomsInSolution),
-        valueRow("Adjacency", Adjacency),
-        valueRow("DrawState", DrawState),
-        valueRow("PaintRequested", PaintRequested),
-        valueRow("NewMazeRequested", NewMazeRequested),
-        valueRow("TimerRunning", TimerRunning),
-        valueRow("Minimized", Minimized),
-        valueRow("Solved", Solved),
-        valueRow("Won", Won),
-        valueRow("WallWalkArmed", WallWalkArmed),
-        valueRow("ShowedSolutionByKey", ShowedSolutionByKey),
-        valueRow("SeedString", SeedString),
-        valueRow("UserX", UserX),
-        valueRow("UserY", UserY),
-        valueRow("UserFloatX", UserFloatX),
-        valueRow("UserFloatY", UserFloatY),
-        valueRow("TiltDegrees", TiltDegrees),
-        valueRow("SinTilt", SinTilt),
-        valueRow("CosTilt", CosTilt),
-        valueRow("ViewXMax", ViewXMax),
-        valueRow("ViewYMax", ViewYMax),
-        valueRow("ViewXOffset", ViewXOffset),
-        valueRow("ScaleX", ScaleX),
-        valueRow("ScaleY", ScaleY),
-        valueRow("RelDist", RelDist),
-        valueRow("UsesPalette", UsesPalette),
-        arrayRow("ColorTable", ColorTable),
-        valueRow("DrawRow", DrawRow),
-        valueRow("DrawColumn", DrawColumn),
-        valueRow("SubRow", SubRow),
-        valueRow("RowOffset", RowOffset),
-    };
-}
-
 }  // namespace ombrelia::maze

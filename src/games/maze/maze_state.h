@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "core/value_row.h"
 #include "games/maze/maze_grid.h"
 #include "platform/checked_array.h"
 
@@ -82,9 +81,6 @@ extern std::int16_t DrawRow;
 extern std::int16_t DrawColumn;
 extern std::int16_t SubRow;  // 0..3, DrawRow modulo 4 in the hexagonal style
 extern double RowOffset;     // world y of the current row
-
-// The rows of these values.
-std::vector<ValueRow> mazeValues();
 
 // Takes the pages and the stack away.
 void releaseMaze();

@@ -33,29 +33,27 @@ constexpr std::int16_t kFirstLives = 5;
 }  // namespace
 
 void resetWormState() {
-    for (const ValueRow& row : wormValues()) {
-        row.reset();
-    }
     CellSize = kCellPixels;
     BoardSize = kBoardCells;
     Lives = kFirstLives;
     Level = 1;
-}
-
-std::vector<ValueRow> wormValues() {
-    return {
-        valueRow("CellSize", CellSize),     valueRow("BoardSize", BoardSize),
-        valueRow("Lives", Lives),           valueRow("Level", Level),
-        valueRow("ItemIndex", ItemIndex),   valueRow("HeadX", HeadX),
-        valueRow("HeadY", HeadY),           valueRow("Heading", Heading),
-        valueRow("WormLength", WormLength), valueRow("LastTurnX", LastTurnX),
-        valueRow("LastTurnY", LastTurnY),   arrayRow("TrailX", TrailX),
-        arrayRow("TrailY", TrailY),         valueRow("ColorR", ColorR),
-        valueRow("ColorG", ColorG),         valueRow("ColorB", ColorB),
-        valueRow("DeltaR", DeltaR),         valueRow("DeltaG", DeltaG),
-        valueRow("DeltaB", DeltaB),         gridRow("Board", Board),
-        gridRow("NextBoard", NextBoard),
-    };
+    ItemIndex = 0;
+    HeadX = 0;
+    HeadY = 0;
+    Heading = 0;
+    WormLength = 0;
+    LastTurnX = 0;
+    LastTurnY = 0;
+    TrailX.fill(0);
+    TrailY.fill(0);
+    ColorR = 0;
+    ColorG = 0;
+    ColorB = 0;
+    DeltaR = 0;
+    DeltaG = 0;
+    DeltaB = 0;
+    Board.fill(0);
+    NextBoard.fill(0);
 }
 
 }  // namespace ombrelia::worm

@@ -3,9 +3,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
-#include "core/value_row.h"
 #include "platform/checked_array.h"
 
 namespace ombrelia::worm {
@@ -48,8 +46,5 @@ extern CheckedGrid<std::int16_t, kLastBoard> NextBoard;  // BuildLevel
 
 // All of it as a game begins.
 void resetWormState();
-
-// The rows of this folder's values.
-std::vector<ValueRow> wormValues();
 
 }  // namespace ombrelia::worm

@@ -4,8 +4,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/value_row.h"
-
 namespace ombrelia {
 
 extern std::int16_t FractalSide;           // cells on a side of the lattice, 2..256, a power of two
@@ -13,8 +11,5 @@ extern std::vector<double> FractalValues;  // lattice point (i, j) at j + (Fract
 extern std::vector<std::uint8_t> FractalBytes;  // three bytes a lattice point
 extern std::int16_t FractalPart;                // passes done, for the progress text
 extern std::int16_t FractalParts;               // passes of the lattice, for the progress text
-
-// The rows of this folder's values.
-std::vector<ValueRow> fractalValues();
 
 }  // namespace ombrelia

@@ -25,14 +25,6 @@ std::vector<std::uint8_t> FractalBytes;
 std::int16_t FractalPart = 0;
 std::int16_t FractalParts = 0;
 
-std::vector<ValueRow> fractalValues() {
-    return {
-        valueRow("FractalSide", FractalSide),
-        valueRow("FractalPart", FractalPart),
-        valueRow("FractalParts", FractalParts),
-    };
-}
-
 namespace {
 
 constexpr int kLatticeExtent = 256;  // map points that the lattice is laid over

@@ -10,6 +10,8 @@
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
 #include "platform/control_events.h"
+#include "register/reset_process.h"
+#include "register/value_row.h"
 #include "terrain/fractal/fractal_state.h"
 
 namespace ombrelia {

@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "app/bindings.h"
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/editor_state.h"
@@ -15,6 +14,7 @@
 #include "platform/bitmap_bytes.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

@@ -1,7 +1,6 @@
 #include <string>
 #include <vector>
 
-#include "app/bindings.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
@@ -11,6 +10,7 @@
 #include "editor_fixture.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
+#include "register/reset_process.h"
 
 namespace ombrelia {
 

@@ -6,6 +6,7 @@
 #include "games/worm/worm.h"
 #include "games/worm/worm_test.h"
 #include "platform/failure.h"
+#include "register/reset_process.h"
 
 namespace ombrelia::worm {
 

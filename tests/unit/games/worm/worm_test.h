@@ -1,12 +1,12 @@
 // The worm game open on a platform without a screen.
 #pragma once
 
-#include "app/bindings.h"
 #include "core/windows/form2.h"
 #include "editor_fixture.h"
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
 #include "platform/dispatch.h"
+#include "register/reset_process.h"
 
 namespace ombrelia::worm {
 

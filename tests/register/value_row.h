@@ -1,16 +1,14 @@
-// The register of values: each value of the process by its name, with its start. What is not in a
-// table of such rows does not exist: tests read, write and reset values through them.
+// The register of values: each value of the process by its name. Tests read, write and reset all of
+// them through it; a value that a state header has and no row names would leak from test to test.
 #pragma once
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "core/objects.h"
 #include "platform/checked_array.h"
 
 namespace ombrelia {
@@ -106,7 +104,7 @@ ValueRow fieldRow(std::string_view name, std::string_view field, CheckedArray<R,
             {{{Low, High, sizeof(R)}, {}, {}}}};
 }
 
-// The rows of this folder's values.
-std::vector<ValueRow> coreValues();
+// All values of the process.
+const std::vector<ValueRow>& allValues();
 
 }  // namespace ombrelia

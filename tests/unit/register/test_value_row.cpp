@@ -3,7 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "core/value_row.h"
+#include "core/objects.h"
+#include "register/value_row.h"
 
 namespace ombrelia {
 
@@ -91,7 +92,7 @@ TEST(ValueRow, a_field_is_found_in_each_record) {
 }
 
 TEST(ValueRow, the_colour_table_has_three_subscripts) {
-    for (const ValueRow& row : coreValues()) {
+    for (const ValueRow& row : allValues()) {
         if (row.name == "ColorRange") {
             for (int n = 0; n < 48; ++n) {
                 const std::vector<int> place = {n / 8 + 1, n / 4 % 2 + 1, n % 4};

@@ -1,4 +1,4 @@
-#include "core/value_row.h"
+#include "register/value_row.h"
 
 #include <charconv>
 #include <system_error>

@@ -1,8 +1,13 @@
-// The register's rows for objects.h, editor_state.h and progress.h.
+// The rows of the register: the values of every state header, in the order of the headers.
+#include <iterator>
+
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
-#include "core/value_row.h"
+#include "games/maze/maze_state.h"
+#include "games/worm/worm_state.h"
+#include "register/value_row.h"
+#include "terrain/fractal/fractal_state.h"
 
 namespace ombrelia {
 
@@ -20,9 +25,7 @@ ValueRow colorRangeRow() {
               {0, ColorTable::kComponents - 1, kCell * ColorTable::kRows * ColorTable::kEnds}}}};
 }
 
-}  // namespace
-
-std::vector<ValueRow> coreValues() {
+std::vector<ValueRow> coreRows() {
     return {
         gridRow("HeightMap", HeightMap),
         gridRow("ShadowMap", ShadowMap),
@@ -98,6 +101,87 @@ std::vector<ValueRow> coreValues() {
         valueRow("ProgressDone", ProgressDone),
         valueRow("ProgressShown", ProgressShown),
     };
+}
+
+std::vector<ValueRow> fractalRows() {
+    return {
+        valueRow("FractalSide", FractalSide),
+        valueRow("FractalPart", FractalPart),
+        valueRow("FractalParts", FractalParts),
+    };
+}
+
+std::vector<ValueRow> mazeRows() {
+    using namespace maze;
+    return {
+        valueRow("NumColumns", NumColumns),
+        valueRow("NumRows", NumRows),
+        valueRow("MaxX", MaxX),
+        valueRow("MaxY", MaxY),
+        valueRow("NumRooms", NumRooms),
+        valueRow("RoomsInSolution", RoomsInSolution),
+        valueRow("Adjacency", Adjacency),
+        valueRow("DrawState", DrawState),
+        valueRow("PaintRequested", PaintRequested),
+        valueRow("NewMazeRequested", NewMazeRequested),
+        valueRow("TimerRunning", TimerRunning),
+        valueRow("Minimized", Minimized),
+        valueRow("Solved", Solved),
+        valueRow("Won", Won),
+        valueRow("WallWalkArmed", WallWalkArmed),
+        valueRow("ShowedSolutionByKey", ShowedSolutionByKey),
+        valueRow("SeedString", SeedString),
+        valueRow("UserX", UserX),
+        valueRow("UserY", UserY),
+        valueRow("UserFloatX", UserFloatX),
+        valueRow("UserFloatY", UserFloatY),
+        valueRow("TiltDegrees", TiltDegrees),
+        valueRow("SinTilt", SinTilt),
+        valueRow("CosTilt", CosTilt),
+        valueRow("ViewXMax", ViewXMax),
+        valueRow("ViewYMax", ViewYMax),
+        valueRow("ViewXOffset", ViewXOffset),
+        valueRow("ScaleX", ScaleX),
+        valueRow("ScaleY", ScaleY),
+        valueRow("RelDist", RelDist),
+        valueRow("UsesPalette", UsesPalette),
+        arrayRow("ColorTable", maze::ColorTable),
+        valueRow("DrawRow", DrawRow),
+        valueRow("DrawColumn", DrawColumn),
+        valueRow("SubRow", SubRow),
+        valueRow("RowOffset", RowOffset),
+    };
+}
+
+std::vector<ValueRow> wormRows() {
+    using namespace worm;
+    return {
+        valueRow("CellSize", CellSize),     valueRow("BoardSize", BoardSize),
+        valueRow("Lives", Lives),           valueRow("Level", Level),
+        valueRow("ItemIndex", ItemIndex),   valueRow("HeadX", HeadX),
+        valueRow("HeadY", HeadY),           valueRow("Heading", Heading),
+        valueRow("WormLength", WormLength), valueRow("LastTurnX", LastTurnX),
+        valueRow("LastTurnY", LastTurnY),   arrayRow("TrailX", TrailX),
+        arrayRow("TrailY", TrailY),         valueRow("ColorR", ColorR),
+        valueRow("ColorG", ColorG),         valueRow("ColorB", ColorB),
+        valueRow("DeltaR", DeltaR),         valueRow("DeltaG", DeltaG),
+        valueRow("DeltaB", DeltaB),         gridRow("Board", Board),
+        gridRow("NextBoard", NextBoard),
+    };
+}
+
+}  // namespace
+
+const std::vector<ValueRow>& allValues() {
+    static const std::vector<ValueRow> values = [] {
+        std::vector<ValueRow> all;
+        for (std::vector<ValueRow> (*rows)() : {coreRows, fractalRows, mazeRows, wormRows}) {
+            std::vector<ValueRow> own = rows();
+            std::move(own.begin(), own.end(), std::back_inserter(all));
+        }
+        return all;
+    }();
+    return values;
 }
 
 }  // namespace ombrelia
