@@ -27,22 +27,22 @@ using HeightGrid = CheckedGrid<std::int16_t, 257>;
 
 // The terrain: heights, working range 0..255; (x, y) = (column, row). Written by terrain operations
 // and the import; a colour look-up clamps the cell that it is given.
-extern HeightGrid HeightMap;
+inline HeightGrid HeightMap;
 
 // Height last painted into Mapview2, or kDirtyShadow. Written by refresh, import, colour commands.
-extern HeightGrid ShadowMap;
+inline HeightGrid ShadowMap;
 
-extern std::int16_t MapSize;        // points on a side; size dialog, import
-extern std::string AppName;         // title and key of the settings; frmSplash
-extern std::int16_t SplashMode;     // 0 start-up splash, 1 About box; Form1's load
-extern std::int16_t ImportAtStart;  // 1 from the choice Import until it has run; size dialog
-extern std::int16_t ImportTarget;   // MapSize that the import sets; import
-extern std::int16_t ImportDirect;   // 1 copies point for point, 0 samples; import
-extern std::int16_t ImportRunning;  // 1 while an import writes the map and refreshes it; import
-extern std::int16_t NewMapPending;  // 1 between New Map's Yes and the unloading; start-up
-extern std::int16_t EggArmed;       // 1 after a double click on the joke; size dialog
-extern std::int16_t BaseHeight;     // height of a new map, 0..255; InitEditor
-extern std::int16_t SeaLevel;       // zero of the metre scale, 0..255; InitEditor
+inline std::int16_t MapSize = 0;        // points on a side; size dialog, import
+inline std::string AppName;             // title and key of the settings; frmSplash
+inline std::int16_t SplashMode = 0;     // 0 start-up splash, 1 About box; Form1's load
+inline std::int16_t ImportAtStart = 0;  // 1 from the choice Import until it has run; size dialog
+inline std::int16_t ImportTarget = 0;   // MapSize that the import sets; import
+inline std::int16_t ImportDirect = 0;   // 1 copies point for point, 0 samples; import
+inline std::int16_t ImportRunning = 0;  // 1 while an import writes the map and refreshes it; import
+inline std::int16_t NewMapPending = 0;  // 1 between New Map's Yes and the unloading; start-up
+inline std::int16_t EggArmed = 0;       // 1 after a double click on the joke; size dialog
+inline std::int16_t BaseHeight = 0;     // height of a new map, 0..255; InitEditor
+inline std::int16_t SeaLevel = 0;       // zero of the metre scale, 0..255; InitEditor
 
 // What the title says of a map of MapSize points a side; empty for another number.
 const char* sizeSuffix();
@@ -67,7 +67,7 @@ class ColorTable {
   private:
     CheckedArray<std::int16_t, 0, kRows * kEnds * kComponents - 1> cells_;
 };
-extern ColorTable ColorRange;  // written by InitEditor, loading a set, the colour page
+inline ColorTable ColorRange;  // written by InitEditor, loading a set, the colour page
 
 // One button. Written by InitEditor, the button handlers and preferences.
 struct ButtonRecord {
@@ -80,7 +80,7 @@ struct ButtonRecord {
 
     bool operator==(const ButtonRecord&) const = default;
 };
-extern CheckedArray<ButtonRecord, 0, 100> OptionStates;
+inline CheckedArray<ButtonRecord, 0, 100> OptionStates;
 
 // One slider. Written by InitEditor and the drags.
 struct SliderRecord {
@@ -91,10 +91,10 @@ struct SliderRecord {
 
     bool operator==(const SliderRecord&) const = default;
 };
-extern CheckedArray<SliderRecord, 0, 20> SliderValues;
+inline CheckedArray<SliderRecord, 0, 20> SliderValues;
 
 // Sines and cosines of (k - 1080) / 3 degrees, k = 0..2160; InitEditor.
-extern CheckedArray<double, 0, 2160> SinTable;
-extern CheckedArray<double, 0, 2160> CosTable;
+inline CheckedArray<double, 0, 2160> SinTable;
+inline CheckedArray<double, 0, 2160> CosTable;
 
 }  // namespace ombrelia

@@ -9,12 +9,6 @@
 
 namespace ombrelia {
 
-std::int16_t StopFlag = 0;
-std::int16_t ProgressState = 0;
-std::int32_t ProgressTotal = 0;
-std::int32_t ProgressDone = 0;
-std::int32_t ProgressShown = 0;
-
 namespace {
 
 constexpr int kGreenFace = 0;

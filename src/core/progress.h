@@ -7,11 +7,12 @@
 
 namespace ombrelia {
 
-extern std::int16_t StopFlag;       // 0 none, 1 asked for, 2 noted by the worker; commands, workers
-extern std::int16_t ProgressState;  // 0 before the first run, 1 running, 2 ended; workers, timer
-extern std::int32_t ProgressTotal;  // ProgressDone that means 100 percent; workers
-extern std::int32_t ProgressDone;   // position of the run; workers
-extern std::int32_t ProgressShown;  // ProgressDone last painted; timer
+inline std::int16_t StopFlag = 0;  // 0 none, 1 asked for, 2 noted by the worker; commands, workers
+inline std::int16_t ProgressState =
+    0;  // 0 before the first run, 1 running, 2 ended; workers, timer
+inline std::int32_t ProgressTotal = 0;  // ProgressDone that means 100 percent; workers
+inline std::int32_t ProgressDone = 0;   // position of the run; workers
+inline std::int32_t ProgressShown = 0;  // ProgressDone last painted; timer
 
 // Enables or disables what could disturb a run, and sets the light: green when enabled, red when
 // not.

@@ -19,12 +19,6 @@
 
 namespace ombrelia {
 
-std::int16_t FractalSide = 0;
-std::vector<double> FractalValues;
-std::vector<std::uint8_t> FractalBytes;
-std::int16_t FractalPart = 0;
-std::int16_t FractalParts = 0;
-
 namespace {
 
 constexpr int kLatticeExtent = 256;  // map points that the lattice is laid over
