@@ -67,13 +67,6 @@ void Surface::setPixel(int x, int y, Color color) {
     changed();
 }
 
-std::int32_t Surface::pixelAt(int x, int y) const {
-    if (x < 0 || y < 0 || x >= width_ || y >= height_) {
-        return -1;
-    }
-    return static_cast<std::int32_t>(colorOf(row(y)[x]));
-}
-
 bool Surface::hasPixelScale() const {
     return ScaleLeft == 0 && ScaleTop == 0 && ScaleWidth == static_cast<float>(width_) &&
            ScaleHeight == static_cast<float>(height_);

@@ -63,9 +63,6 @@ class Surface {
     // One pixel by its number from the left top corner, whatever the scale; nothing outside.
     void setPixel(int x, int y, Color color);
 
-    // Colour of a pixel; -1 outside the image.
-    std::int32_t pixelAt(int x, int y) const;
-
     // One pixel at a point of the scale.
     void dot(double u, double v, Color color);
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "files/bitmap_import.h"
+#include "pixel_at.h"
 #include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
@@ -26,7 +27,7 @@ std::vector<std::int16_t> heightsOf(ByteSource& source) {
     readBitmap(source, picture);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            heights.push_back(heightOfColor(picture.pixelAt(x, y)));
+            heights.push_back(heightOfColor(pixelAt(picture, x, y)));
             if (heights.back() < 0 || heights.back() > 255) {
                 std::abort();
             }

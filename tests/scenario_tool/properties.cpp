@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "pixel_at.h"
 #include "register/value_row.h"
 
 namespace ombrelia::scenario {
@@ -92,7 +93,7 @@ std::optional<Found> pixel(Control& control, const Subscripts& place) {
     if (surface == nullptr) {
         return std::nullopt;
     }
-    return Found{Measure::Number, std::to_string(surface->pixelAt(place[0], place[1])), {}};
+    return Found{Measure::Number, std::to_string(pixelAt(*surface, place[0], place[1])), {}};
 }
 
 std::optional<Found> listCount(Control& control, const Subscripts& /*none*/) {

@@ -8,6 +8,7 @@
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 
 namespace ombrelia {
 
@@ -27,8 +28,8 @@ TEST_F(ColorDisplay, the_picker_has_255_at_the_top) {
     const Surface& strip = Form1.Picker.Canvas;
     ASSERT_EQ(strip.height(), 256);
     for (int h = 0; h <= 255; ++h) {
-        EXPECT_EQ(strip.pixelAt(0, 255 - h), colorAt(h)) << h;
-        EXPECT_EQ(strip.pixelAt(strip.width() - 1, 255 - h), colorAt(h)) << h;
+        EXPECT_EQ(pixelAt(strip, 0, 255 - h), colorAt(h)) << h;
+        EXPECT_EQ(pixelAt(strip, strip.width() - 1, 255 - h), colorAt(h)) << h;
     }
 }
 
@@ -38,8 +39,8 @@ TEST_F(ColorDisplay, the_gradient_of_the_page_runs_to_the_right) {
     const Surface& strip = Form1.PrefPicker.Canvas;
     ASSERT_EQ(strip.width(), 256);
     for (int h = 0; h <= 255; ++h) {
-        EXPECT_EQ(strip.pixelAt(h, 0), colorAt(h)) << h;
-        EXPECT_EQ(strip.pixelAt(h, strip.height() - 1), colorAt(h)) << h;
+        EXPECT_EQ(pixelAt(strip, h, 0), colorAt(h)) << h;
+        EXPECT_EQ(pixelAt(strip, h, strip.height() - 1), colorAt(h)) << h;
     }
 }
 

@@ -8,6 +8,7 @@
 #include "core/windows/small_windows.h"
 #include "desk/run_command.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "platform/dispatch.h"
 
 namespace ombrelia {
@@ -97,11 +98,11 @@ TEST_F(RunCommandTest, leaving_the_perspective_by_a_tool_shows_the_map_at_once) 
     run(6);
     Form1.MapView.Canvas.clear();
     run(0);
-    EXPECT_NE(Form1.MapView.Canvas.pixelAt(128, 128), 0);
-    EXPECT_EQ(Form1.MapView.Canvas.pixelAt(128, 128), Form1.Mapview2.Canvas.pixelAt(32, 32));
+    EXPECT_NE(pixelAt(Form1.MapView.Canvas, 128, 128), 0);
+    EXPECT_EQ(pixelAt(Form1.MapView.Canvas, 128, 128), pixelAt(Form1.Mapview2.Canvas, 32, 32));
     Form1.MapView.Canvas.clear();
     run(1);  // not from the perspective any more: the view is left alone
-    EXPECT_EQ(Form1.MapView.Canvas.pixelAt(128, 128), 0);
+    EXPECT_EQ(pixelAt(Form1.MapView.Canvas, 128, 128), 0);
 }
 
 TEST_F(RunCommandTest, updating_paints_what_changed) {
@@ -112,12 +113,12 @@ TEST_F(RunCommandTest, updating_paints_what_changed) {
 
 TEST_F(RunCommandTest, new_colours_repaint_the_whole_map) {
     ColorRange(3, 1, 1) = 0;
-    const auto before = Form1.Mapview2.Canvas.pixelAt(10, 10);
+    const auto before = pixelAt(Form1.Mapview2.Canvas, 10, 10);
     run(24);
-    EXPECT_NE(Form1.Mapview2.Canvas.pixelAt(10, 10), before);
+    EXPECT_NE(pixelAt(Form1.Mapview2.Canvas, 10, 10), before);
     EXPECT_EQ(Form1.PickedColor.BackColor,
-              static_cast<Color>(Form1.Mapview2.Canvas.pixelAt(10, 10)));
-    EXPECT_EQ(Form1.Picker.Canvas.pixelAt(0, 255 - 40), Form1.Mapview2.Canvas.pixelAt(10, 10));
+              static_cast<Color>(pixelAt(Form1.Mapview2.Canvas, 10, 10)));
+    EXPECT_EQ(pixelAt(Form1.Picker.Canvas, 0, 255 - 40), pixelAt(Form1.Mapview2.Canvas, 10, 10));
     EXPECT_EQ(ShadowMap(65, 65), 40);
 }
 

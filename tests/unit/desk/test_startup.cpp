@@ -8,6 +8,7 @@
 #include "core/windows/small_windows.h"
 #include "desk/startup.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "platform/dispatch.h"
 #include "platform/window_life.h"
 #include "register/reset_process.h"
@@ -104,10 +105,10 @@ TEST_F(Startup, each_size_has_its_title) {
 TEST_F(Startup, the_back_buffer_begins_in_the_colour_of_the_ground) {
     startWith(83);
     const Surface& buffer = Form1.Mapview2.Canvas;
-    EXPECT_GT(buffer.pixelAt(0, 0), 0);
-    EXPECT_EQ(buffer.pixelAt(256, 256), buffer.pixelAt(0, 0));
-    EXPECT_EQ(Form1.MapView.Canvas.pixelAt(256, 256), buffer.pixelAt(0, 0));
-    EXPECT_EQ(static_cast<std::int32_t>(Form1.PickedColor.BackColor), buffer.pixelAt(0, 0));
+    EXPECT_GT(pixelAt(buffer, 0, 0), 0);
+    EXPECT_EQ(pixelAt(buffer, 256, 256), pixelAt(buffer, 0, 0));
+    EXPECT_EQ(pixelAt(Form1.MapView.Canvas, 256, 256), pixelAt(buffer, 0, 0));
+    EXPECT_EQ(static_cast<std::int32_t>(Form1.PickedColor.BackColor), pixelAt(buffer, 0, 0));
 }
 
 TEST_F(Startup, closing_the_size_dialog_ends_the_process) {

@@ -10,6 +10,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "desk/tool_gestures.h"
+#include "pixel_at.h"
 #include "platform/dispatch.h"
 #include "terrain/tool_test.h"
 
@@ -259,7 +260,7 @@ TEST_F(ToolGestures, dots_lie_in_the_scale_of_the_moment) {
     choose(button::kCanyon);
     deliverMouse(Form1.MapView, Event::MouseDown, MouseButton::Left, 50, 70);
     deliverMouse(Form1.MapView, Event::MouseMove, MouseButton::Left, 90, 120);
-    EXPECT_EQ(view.pixelAt(90, 120), 0xFFFFFF);
+    EXPECT_EQ(pixelAt(view, 90, 120), 0xFFFFFF);
 }
 
 // A path that is full ends the move before the map is shown; a point that the canyon passes over

@@ -5,6 +5,7 @@
 
 #include "core/progress.h"
 #include "files/import_test.h"
+#include "pixel_at.h"
 
 namespace ombrelia {
 
@@ -29,7 +30,7 @@ struct PlainMap {
 };
 
 int plainHeight(const Surface& picture, int x, int y) {
-    const int color = picture.pixelAt(x, y);
+    const int color = pixelAt(picture, x, y);
     const std::div_t low = std::div(color, 256);
     const std::div_t middle = std::div(low.quot, 256);
     return static_cast<int>(std::nearbyint((low.rem + middle.rem + middle.quot) / 3.0));
@@ -115,7 +116,7 @@ class ImportLoops : public ImportTest {
             }
         };
         importPixels(picture.width(), picture.height(),
-                     [&](int x, int y) { return static_cast<Color>(picture.pixelAt(x, y)); });
+                     [&](int x, int y) { return static_cast<Color>(pixelAt(picture, x, y)); });
         platform.OnYield = nullptr;
         EXPECT_EQ(bar, plain.bar);
         ASSERT_EQ(MapSize, plain.mapSize);

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "pixel_at.h"
+
 namespace ombrelia {
 
 void plainCopy(Surface& target, const Surface& source, const Surface::Area& to,
@@ -24,7 +26,7 @@ void plainCopy(Surface& target, const Surface& source, const Surface::Area& to,
             }
             const auto sx = static_cast<int>(std::floor(fromX + shareX * fromWidth));
             const auto sy = static_cast<int>(std::floor(fromY + shareY * fromHeight));
-            const std::int32_t color = source.pixelAt(sx, sy);
+            const std::int32_t color = pixelAt(source, sx, sy);
             if (color >= 0) {
                 target.setPixel(x, y, static_cast<Color>(color));
             }

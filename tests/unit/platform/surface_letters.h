@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "pixel_at.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
@@ -17,7 +18,7 @@ inline std::vector<std::string> lettersOf(const Surface& surface) {
     for (int y = 0; y < surface.height(); ++y) {
         std::string row;
         for (int x = 0; x < surface.width(); ++x) {
-            const auto color = static_cast<Color>(surface.pixelAt(x, y));
+            const auto color = static_cast<Color>(pixelAt(surface, x, y));
             row += color == 0 ? '.' : color == kRed ? 'r' : color == kBlue ? 'b' : '?';
         }
         rows.push_back(row);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "platform/failure.h"
 #include "platform/plain_picture.h"
 #include "platform/surface.h"
@@ -245,7 +246,7 @@ TEST(SurfacePolygon, neighbouring_cells_neither_overlap_nor_leave_a_gap) {
                                 kRed);
                 for (int p = 0; p < kSide * kSide; ++p) {
                     hits[static_cast<std::size_t>(p)] +=
-                        surface.pixelAt(p % kSide, p / kSide) != 0 ? 1 : 0;
+                        pixelAt(surface, p % kSide, p / kSide) != 0 ? 1 : 0;
                 }
             }
         }
@@ -265,8 +266,8 @@ TEST(SurfacePolygon, two_halves_are_the_whole) {
         second.polygon(Corners{all[2], all[3], all[0]}, kRed);
         whole.polygon(all, kRed);
         for (int p = 0; p < 13 * 11; ++p) {
-            const bool isInOne = first.pixelAt(p % 13, p / 13) != second.pixelAt(p % 13, p / 13);
-            ASSERT_EQ(whole.pixelAt(p % 13, p / 13) != 0, isInOne) << round;
+            const bool isInOne = pixelAt(first, p % 13, p / 13) != pixelAt(second, p % 13, p / 13);
+            ASSERT_EQ(pixelAt(whole, p % 13, p / 13) != 0, isInOne) << round;
         }
     }
 }

@@ -7,6 +7,7 @@
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/form1.h"
+#include "pixel_at.h"
 #include "terrain/raise_lower.h"
 #include "terrain/tool_test.h"
 #include "views/view3d/cell_painters.h"
@@ -23,7 +24,7 @@ class RaiseLower : public ToolTest {
     static void expectSamePixels(const Surface& left, const Surface& right) {
         for (int y = 0; y < 257; ++y) {
             for (int x = 0; x < 257; ++x) {
-                ASSERT_EQ(left.pixelAt(x, y), right.pixelAt(x, y)) << "pixel " << x << ' ' << y;
+                ASSERT_EQ(pixelAt(left, x, y), pixelAt(right, x, y)) << "pixel " << x << ' ' << y;
             }
         }
     }
@@ -182,7 +183,7 @@ TEST_F(RaiseLower, the_shadow_stays_so_that_a_refresh_paints_the_same_again) {
     apply(Tool::Raise, 32, 32, 10);
     EXPECT_EQ(ShadowMap(32, 32), 40);
     std::int16_t height = HeightMap(32, 32);
-    EXPECT_EQ(Form1.Mapview2.Canvas.pixelAt(32, 32),
+    EXPECT_EQ(pixelAt(Form1.Mapview2.Canvas, 32, 32),
               static_cast<std::int32_t>(HeightToColor(height)));
 }
 
@@ -220,7 +221,7 @@ TEST_F(RaiseLower, without_a_motion_tool_a_cell_is_drawn_in_perspective) {
     int drawn = 0;
     for (int y = 0; y < 257; ++y) {
         for (int x = 0; x < 257; ++x) {
-            drawn += seen.pixelAt(x, y) != blank.pixelAt(x, y) ? 1 : 0;
+            drawn += pixelAt(seen, x, y) != pixelAt(blank, x, y) ? 1 : 0;
         }
     }
     EXPECT_GT(drawn, 100);
@@ -230,7 +231,7 @@ TEST_F(RaiseLower, a_large_map_is_painted_pixel_by_pixel) {
     openMap(257);
     layFlat(60);
     apply(Tool::Raise, 100.5F, 100.5F, 10);
-    EXPECT_EQ(Form1.MapView.Canvas.pixelAt(101, 101), Form1.Mapview2.Canvas.pixelAt(101, 101));
+    EXPECT_EQ(pixelAt(Form1.MapView.Canvas, 101, 101), pixelAt(Form1.Mapview2.Canvas, 101, 101));
     EXPECT_EQ(yieldsOfLastRun, 0);
 }
 

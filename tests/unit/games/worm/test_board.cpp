@@ -2,6 +2,7 @@
 
 #include "games/worm/board.h"
 #include "games/worm/worm_test.h"
+#include "pixel_at.h"
 
 namespace ombrelia::worm {
 
@@ -108,7 +109,7 @@ class PictureCounter : public HeadlessPlatform {
     std::vector<Color> Colors;
     void refresh(Control& control) override {
         EXPECT_EQ(&control, &Form2);
-        Colors.push_back(static_cast<Color>(Form2.Picture1.Canvas.pixelAt(495, 165)));
+        Colors.push_back(static_cast<Color>(pixelAt(Form2.Picture1.Canvas, 495, 165)));
     }
 };
 

@@ -5,6 +5,7 @@
 #include "games/worm/pilot.h"
 #include "games/worm/plain_worm.h"
 #include "games/worm/worm_test.h"
+#include "pixel_at.h"
 
 namespace ombrelia::worm {
 
@@ -57,7 +58,7 @@ class WormPlay : public WormTest {
             for (int x = 0; x <= 16; ++x) {
                 const Color expected = plain_.painted[plain::Cell(x, y)];
                 for (const auto& [dx, dy] : {std::pair(0, 0), {29, 0}, {0, 29}, {29, 29}}) {
-                    ASSERT_EQ(static_cast<Color>(canvas.pixelAt(x * 30 + dx, y * 30 + dy)),
+                    ASSERT_EQ(static_cast<Color>(pixelAt(canvas, x * 30 + dx, y * 30 + dy)),
                               expected)
                         << x << ' ' << y;
                 }

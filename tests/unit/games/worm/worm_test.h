@@ -5,6 +5,7 @@
 #include "editor_fixture.h"
 #include "games/worm/worm.h"
 #include "games/worm/worm_state.h"
+#include "pixel_at.h"
 #include "platform/dispatch.h"
 #include "register/reset_process.h"
 
@@ -46,7 +47,7 @@ class WormTest : public ProcessTest {
     }
 
     static Color colorAt(int x, int y) {
-        return static_cast<Color>(Form2.Picture1.Canvas.pixelAt(x * 30 + 15, y * 30 + 15));
+        return static_cast<Color>(pixelAt(Form2.Picture1.Canvas, x * 30 + 15, y * 30 + 15));
     }
 
   private:

@@ -2,6 +2,7 @@
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "views/map2d/magnifier.h"
 
 namespace ombrelia {
@@ -26,8 +27,8 @@ class Magnifier : public EditorTest {
     // The sample in column k and row m fills 7 x 7 pixels.
     static void expectSample(int k, int m, std::int32_t color) {
         const Surface& lens = Form1.ZoomView.Canvas;
-        EXPECT_EQ(lens.pixelAt(7 * k + 11, 7 * m + 10), color) << k << ' ' << m;
-        EXPECT_EQ(lens.pixelAt(7 * k + 17, 7 * m + 16), color) << k << ' ' << m;
+        EXPECT_EQ(pixelAt(lens, 7 * k + 11, 7 * m + 10), color) << k << ' ' << m;
+        EXPECT_EQ(pixelAt(lens, 7 * k + 17, 7 * m + 16), color) << k << ' ' << m;
     }
 };
 
@@ -42,9 +43,9 @@ TEST_F(Magnifier, samples_lie_to_the_right_of_and_below_the_pointer) {
     // 3.5 more goes to the even cell.
     showUnderPointer(21, 31);
     expectSample(4, 4, colorAt(24, 34));
-    EXPECT_EQ(Form1.ZoomView.Canvas.pixelAt(46, 45), colorAt(24, 34));  // the last edge
-    EXPECT_EQ(Form1.ZoomView.Canvas.pixelAt(10, 10), 0);
-    EXPECT_EQ(Form1.ZoomView.Canvas.pixelAt(47, 20), 0);
+    EXPECT_EQ(pixelAt(Form1.ZoomView.Canvas, 46, 45), colorAt(24, 34));  // the last edge
+    EXPECT_EQ(pixelAt(Form1.ZoomView.Canvas, 10, 10), 0);
+    EXPECT_EQ(pixelAt(Form1.ZoomView.Canvas, 47, 20), 0);
 }
 
 TEST_F(Magnifier, the_readout_rounds_ties_to_even) {

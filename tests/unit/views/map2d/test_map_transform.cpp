@@ -5,6 +5,7 @@
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "platform/failure.h"
 #include "platform/plain_copy.h"
 #include "views/map2d/map_transform.h"
@@ -36,7 +37,7 @@ int differences(const Surface& a, const Surface& b) {
     int count = 0;
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x) {
-            count += a.pixelAt(x, y) != b.pixelAt(x, y) ? 1 : 0;
+            count += pixelAt(a, x, y) != pixelAt(b, x, y) ? 1 : 0;
         }
     }
     return count;
@@ -76,7 +77,7 @@ TEST_F(MapTransform, the_whole_map_is_stretched_over_the_view_without_zoom) {
         plainCopy(plain, Form1.Mapview2.Canvas, {0, 0, 257, 257}, {0, 0, side, side});
         EXPECT_EQ(differences(view(), plain), 0) << mapSize;
     }
-    EXPECT_EQ(view().pixelAt(256, 0), Form1.Mapview2.Canvas.pixelAt(256, 0));
+    EXPECT_EQ(pixelAt(view(), 256, 0), pixelAt(Form1.Mapview2.Canvas, 256, 0));
 }
 
 TEST_F(MapTransform, zoom_and_pan_are_cut_back) {
@@ -111,12 +112,12 @@ TEST_F(MapTransform, both_copies_are_made_under_zoom) {
     const Surface& source = Form1.Mapview2.Canvas;
     // Old scale corner 0: the first copy begins at pixel 100 * 257 / 457 = 56.2 and holds the
     // source's first two pixels alone.
-    EXPECT_EQ(view().pixelAt(55, 60), static_cast<std::int32_t>(kMarker));
-    EXPECT_EQ(view().pixelAt(60, 60), source.pixelAt(0, 0));
-    EXPECT_EQ(view().pixelAt(60, 190), source.pixelAt(0, 1));
+    EXPECT_EQ(pixelAt(view(), 55, 60), static_cast<std::int32_t>(kMarker));
+    EXPECT_EQ(pixelAt(view(), 60, 60), pixelAt(source, 0, 0));
+    EXPECT_EQ(pixelAt(view(), 60, 190), pixelAt(source, 0, 1));
     // The second begins at 200 * 257 / 457 = 112.5: a part of the map at an offset.
-    EXPECT_EQ(view().pixelAt(113, 113), source.pixelAt(14, 14));
-    EXPECT_EQ(view().pixelAt(256, 256), source.pixelAt(50, 50));
+    EXPECT_EQ(pixelAt(view(), 113, 113), pixelAt(source, 14, 14));
+    EXPECT_EQ(pixelAt(view(), 256, 256), pixelAt(source, 50, 50));
 }
 
 // The same formulas once more, on numbers of their own.

@@ -7,6 +7,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "platform/dispatch.h"
 #include "views/map2d/update_map_view.h"
 
@@ -35,7 +36,7 @@ class UpdateMap : public EditorTest {
     }
 
     static bool isMarked(const Surface& surface, int x, int y) {
-        return surface.pixelAt(x, y) == static_cast<std::int32_t>(kMarkerColor);
+        return pixelAt(surface, x, y) == static_cast<std::int32_t>(kMarkerColor);
     }
 
     static int paintedPixels(const Surface& surface) {
@@ -82,11 +83,11 @@ TEST_F(UpdateMap, changed_cells_alone_are_painted) {
     HeightMap(66, 10) = 99;  // beyond the map
     UpdateMapView(1);
     EXPECT_EQ(paintedPixels(buffer()), 2);
-    EXPECT_EQ(buffer().pixelAt(3, 5), colorAt(200));
-    EXPECT_EQ(buffer().pixelAt(65, 65), colorAt(10));
+    EXPECT_EQ(pixelAt(buffer(), 3, 5), colorAt(200));
+    EXPECT_EQ(pixelAt(buffer(), 65, 65), colorAt(10));
     EXPECT_EQ(ShadowMap(3, 5), 200);
     EXPECT_EQ(ShadowMap(66, 10), 40);
-    EXPECT_EQ(view().pixelAt(13, 21), colorAt(200));  // 3.5 and 5.5 cells of 257 / 65
+    EXPECT_EQ(pixelAt(view(), 13, 21), colorAt(200));  // 3.5 and 5.5 cells of 257 / 65
 }
 
 TEST_F(UpdateMap, marked_cells_are_all_painted_and_those_beyond_keep_their_shadow) {
@@ -96,7 +97,7 @@ TEST_F(UpdateMap, marked_cells_are_all_painted_and_those_beyond_keep_their_shado
     EXPECT_EQ(ShadowMap(65, 66), 40);
     UpdateMapView(1);
     EXPECT_EQ(paintedPixels(buffer()), 66 * 66);
-    EXPECT_EQ(buffer().pixelAt(65, 65), colorAt(40));
+    EXPECT_EQ(pixelAt(buffer(), 65, 65), colorAt(40));
     EXPECT_TRUE(isMarked(buffer(), 66, 0));
     EXPECT_EQ(ShadowMap(65, 65), 40);
 }
@@ -121,9 +122,9 @@ TEST_F(UpdateMap, heights_out_of_range_are_cut_back_in_map_and_shadow) {
     UpdateMapView(1);
     EXPECT_EQ(HeightMap(1, 1), 255);
     EXPECT_EQ(ShadowMap(1, 1), 255);
-    EXPECT_EQ(buffer().pixelAt(1, 1), colorAt(255));
+    EXPECT_EQ(pixelAt(buffer(), 1, 1), colorAt(255));
     EXPECT_EQ(HeightMap(2, 1), 0);
-    EXPECT_EQ(buffer().pixelAt(2, 1), colorAt(0));
+    EXPECT_EQ(pixelAt(buffer(), 2, 1), colorAt(0));
     EXPECT_EQ(HeightMap(70, 1), 300);
 }
 
@@ -145,9 +146,9 @@ TEST_F(UpdateMap, a_height_without_a_colour_takes_that_of_the_cell_painted_befor
     HeightMap(5, 0) = 50;  // the cell painted before is (3, 0), for (4, 0) is clean
     HeightMap(0, 1) = 50;
     UpdateMapView(1);
-    EXPECT_EQ(buffer().pixelAt(0, 0), 0);
-    EXPECT_EQ(buffer().pixelAt(5, 0), colorAt(220));
-    EXPECT_EQ(buffer().pixelAt(0, 1), colorAt(220));
+    EXPECT_EQ(pixelAt(buffer(), 0, 0), 0);
+    EXPECT_EQ(pixelAt(buffer(), 5, 0), colorAt(220));
+    EXPECT_EQ(pixelAt(buffer(), 0, 1), colorAt(220));
     EXPECT_EQ(paintedPixels(buffer()), 4);
 }
 
@@ -213,12 +214,12 @@ TEST_F(UpdateMap, wide_steps_draw_boxes_on_the_view_and_leave_the_shadow) {
     EXPECT_EQ(ShadowMap(20, 40), -2);
     EXPECT_EQ(HeightMap(60, 60), 255);
     // Boxes of 21 pixels a side, later ones over earlier ones; the last reach 80.
-    EXPECT_EQ(view().pixelAt(20, 40), colorAt(200));
-    EXPECT_EQ(view().pixelAt(39, 59), colorAt(200));
-    EXPECT_EQ(view().pixelAt(40, 59), colorAt(40));
-    EXPECT_EQ(view().pixelAt(39, 60), colorAt(40));
-    EXPECT_EQ(view().pixelAt(80, 80), colorAt(255));
-    EXPECT_EQ(view().pixelAt(19, 40), colorAt(40));
+    EXPECT_EQ(pixelAt(view(), 20, 40), colorAt(200));
+    EXPECT_EQ(pixelAt(view(), 39, 59), colorAt(200));
+    EXPECT_EQ(pixelAt(view(), 40, 59), colorAt(40));
+    EXPECT_EQ(pixelAt(view(), 39, 60), colorAt(40));
+    EXPECT_EQ(pixelAt(view(), 80, 80), colorAt(255));
+    EXPECT_EQ(pixelAt(view(), 19, 40), colorAt(40));
     EXPECT_TRUE(isMarked(view(), 81, 80));
     EXPECT_EQ(paintedPixels(view()), 81 * 81);
     EXPECT_EQ(ProgressState, 2);
@@ -230,8 +231,8 @@ TEST_F(UpdateMap, a_change_of_colours_in_a_yield_takes_effect_from_the_next_row_
     const std::int32_t before = colorAt(40);
     platform.OnYield = [] { ColorRange(3, 1, 1) = 0; };
     UpdateMapView(1);
-    EXPECT_EQ(buffer().pixelAt(65, 0), before);
-    EXPECT_EQ(buffer().pixelAt(0, 1), colorAt(40));
+    EXPECT_EQ(pixelAt(buffer(), 65, 0), before);
+    EXPECT_EQ(pixelAt(buffer(), 0, 1), colorAt(40));
     EXPECT_NE(colorAt(40), before);
 }
 

@@ -8,6 +8,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "views/view3d/cell_painters.h"
 #include "views/view3d/draw_terrain.h"
 #include "views/view3d/projection.h"
@@ -99,7 +100,7 @@ TEST_F(DrawProtocol, several_styles_follow_each_other_at_each_point) {
     }
     for (int y = 0; y < 257; ++y) {
         for (int x = 0; x < 257; ++x) {
-            ASSERT_EQ(view.pixelAt(x, y), drawn.pixelAt(x, y)) << x << ' ' << y;
+            ASSERT_EQ(pixelAt(view, x, y), pixelAt(drawn, x, y)) << x << ' ' << y;
         }
     }
 }

@@ -9,6 +9,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "pixel_at.h"
 #include "platform/dispatch.h"
 #include "views/view3d/cell_painters.h"
 #include "views/view3d/draw_terrain.h"
@@ -97,7 +98,7 @@ class DrawTerrain : public EditorTest {
         int count = 0;
         for (int y = 0; y < 257; ++y) {
             for (int x = 0; x < 257; ++x) {
-                count += Form1.MapView.Canvas.pixelAt(x, y) != 0 ? 1 : 0;
+                count += pixelAt(Form1.MapView.Canvas, x, y) != 0 ? 1 : 0;
             }
         }
         return count;
@@ -349,7 +350,7 @@ TEST_F(DrawTerrain, heights_and_colours_are_read_when_their_row_is_drawn) {
         ProjectPoint(point, X, Y);
         std::int16_t height = 200;
         const auto expected = static_cast<std::int32_t>(HeightToColor(height));
-        EXPECT_EQ(Form1.MapView.Canvas.pixelAt(wholePixel(X - MapSize), wholePixel(Y)), expected)
+        EXPECT_EQ(pixelAt(Form1.MapView.Canvas, wholePixel(X - MapSize), wholePixel(Y)), expected)
             << static_cast<int>(style);
     }
 }
@@ -374,7 +375,7 @@ TEST_F(DrawTerrain, a_coarse_walk_loses_the_edge_that_it_does_not_reach) {
         double X = 0;
         double Y = 0;
         ProjectPoint(RotatePoint(x, y, 20, viewCentre()), X, Y);
-        return Form1.MapView.Canvas.pixelAt(wholePixel(X - MapSize), wholePixel(Y)) != 0;
+        return pixelAt(Form1.MapView.Canvas, wholePixel(X - MapSize), wholePixel(Y)) != 0;
     };
     DrawTerrain3D(10, kFullDrawing);
     EXPECT_TRUE(isDrawn(128, 2));
