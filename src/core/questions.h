@@ -1,9 +1,10 @@
-// What the editor asks and tells in message boxes, as it stands; failures speak by themselves.
+// What the editor asks and tells in message boxes, word for word; failures are worded in
+// platform/messages.cpp.
 #pragma once
 
 namespace ombrelia::messages {
 
-// The questions of the editor, as they stand.
+// Before a map is lost.
 inline constexpr const char* kNewMapQuestion = "Are you sure you want to start a new map?";
 inline constexpr const char* kNewMapTitle = "Start New Map?";
 inline constexpr const char* kExitQuestion = "Are you sure you want to Exit?";

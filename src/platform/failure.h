@@ -1,5 +1,5 @@
-// Run-time failures: what ends the handler in which it happens. Thrown once, caught where events
-// are delivered, worded in messages.cpp.
+// Run-time failures: what ends the handler in which it happens. Caught where events are delivered,
+// worded in messages.cpp.
 #pragma once
 
 #include <stdexcept>
@@ -35,7 +35,7 @@ class MissingPartFailure : public Failure {
 // A file that cannot be opened, read or written.
 class FileFailure : public Failure {
   public:
-    // action: "saved" or "read"; reason: the system's own words for errorNumber.
+    // action: "saved" or "read"; reason: a clause without a full stop, mostly the system's words.
     FileFailure(const std::string& action, const std::string& path, const std::string& reason);
 };
 

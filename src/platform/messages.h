@@ -1,4 +1,4 @@
-// What a message box says of a failure: functions with named arguments, and the reasons.
+// What a message box says of a failure, each a full sentence, and the reasons that stand in them.
 #pragma once
 
 #include <string>

@@ -19,7 +19,8 @@ void unloadWindow(Window& window);
 
 void minimizeWindow(Window& window);
 
-// Shows what was drawn so far on the control's window.
+// Has what was drawn or changed so far on the control's window shown; the platform may gather such
+// wishes.
 void refreshControl(Control& control);
 
 // Raises the window's Paint, unless it is not to be seen.
