@@ -45,8 +45,8 @@ class ColorLookup {
 
     bool isFilled_ = false;
     bool isComplete_ = false;
-    std::array<Pixel, 256> pixels_{};
-    std::array<bool, 256> hasColor_{};
+    std::array<Pixel, kHeights> pixels_{};
+    std::array<bool, kHeights> hasColor_{};
 };
 
 }  // namespace ombrelia

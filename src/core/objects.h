@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/angles.h"
 #include "platform/checked_array.h"
 
 namespace ombrelia {
@@ -20,10 +21,13 @@ inline constexpr int kLargeSize = 257;
 // (65534 as a signed 16-bit number).
 inline constexpr std::int16_t kDirtyShadow = -2;
 
+// Heights in the working range, 0..255.
+inline constexpr int kHeights = 256;
+
 // Metres to one step of height.
 inline constexpr int kMetresPerStep = 13;
 
-using HeightGrid = CheckedGrid<std::int16_t, 257>;
+using HeightGrid = CheckedGrid<std::int16_t, kLargeSize>;
 
 // The terrain: heights, working range 0..255; (x, y) = (column, row). Written by terrain operations
 // and the import; a colour look-up clamps the cell that it is given.
@@ -93,8 +97,8 @@ struct SliderRecord {
 };
 inline CheckedArray<SliderRecord, 0, 20> SliderValues;
 
-// Sines and cosines of (k - 1080) / 3 degrees, k = 0..2160; InitEditor.
-inline CheckedArray<double, 0, 2160> SinTable;
-inline CheckedArray<double, 0, 2160> CosTable;
+// Sines and cosines of (k - kZeroAngle) / 3 degrees, k = 0..kLastAngle; InitEditor.
+inline CheckedArray<double, 0, kLastAngle> SinTable;
+inline CheckedArray<double, 0, kLastAngle> CosTable;
 
 }  // namespace ombrelia

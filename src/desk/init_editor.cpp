@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/angles.h"
 #include "core/button_table.h"
 #include "core/buttons.h"
 #include "core/color_sets.h"
@@ -19,7 +20,6 @@ constexpr std::int16_t kSeaLevelHeight = 31;
 constexpr std::int16_t kNewMapHeight = 40;
 constexpr std::int16_t kStartYaw = 180;
 constexpr std::int16_t kStartTilt = 135;
-constexpr double kPi = 3.14159;  // Required: five decimals (angle_tables_use_short_pi)
 
 // The member of each group that starts on.
 void fillGroups() {
@@ -56,8 +56,10 @@ void fillButtons() {
 }
 
 void fillAngleTables() {
-    for (int k = 0; k <= 2160; ++k) {
-        const double angle = ((k - 1080) / 3.0) * (kPi / 180);
+    constexpr double kThirds = kThirdsInDegree;
+    for (int k = 0; k <= kLastAngle; ++k) {
+        // Required: a pi of five decimals (angle_tables_use_short_pi).
+        const double angle = ((k - kZeroAngle) / kThirds) * (kShortPi / 180);
         SinTable(k) = std::sin(angle);
         CosTable(k) = std::cos(angle);
     }

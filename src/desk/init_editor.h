@@ -5,7 +5,7 @@ namespace ombrelia {
 
 void InitEditor();
 
-// Fills SinTable and CosTable: entry k is the sine or cosine of (k - 1080) / 3 degrees.
+// Fills SinTable and CosTable: entry k is the sine or cosine of (k - kZeroAngle) / 3 degrees.
 void fillAngleTables();
 
 // Fills records 0..74 of OptionStates and GroupCurrent with their start and paints the buttons.

@@ -5,16 +5,13 @@
 #include <cmath>
 #include <cstring>
 
+#include "core/angles.h"
 #include "platform/numeric.h"
 #include "platform/wide_vectors.h"
 
 namespace ombrelia {
 
 namespace {
-
-constexpr double kPi = 3.14159;  // Required: five decimals (the_wall_uses_a_short_pi)
-constexpr int kTurnThirds = 1080;
-constexpr int kTableMiddle = 1080;
 
 // Circles of radius `above` and more have their samples so many half degrees apart.
 struct Spacing {
@@ -26,8 +23,8 @@ constexpr Spacing kSpacingTable[] = {{30, 1}, {20, 2}, {-1, 4}};
 // From 0 degrees on; the table has thirds of a degree, half degrees go to the nearest.
 Directions everyHalfDegrees(int halfDegrees) {
     Directions made;
-    for (int n = 0; n < 2 * kTurnThirds / 3; n += halfDegrees) {
-        const int entry = kTableMiddle + static_cast<int>(roundToEven(n * 1.5));
+    for (int n = 0; n < 2 * kThirdsInTurn / kThirdsInDegree; n += halfDegrees) {
+        const int entry = kZeroAngle + static_cast<int>(roundToEven(n * 1.5));
         made.add(CosTable(entry), SinTable(entry));
     }
     return made;
@@ -136,7 +133,7 @@ CanyonWall::CanyonWall(int bank, int edge) : bank_(bank), edge_(edge), before_(H
 
 CanyonWall::Ring CanyonWall::makeRing(int number) {
     const double t = -(90 + number * (180.0 / edge_));
-    const double climb = std::sin(t * kPi / 180);
+    const double climb = std::sin(t * kShortPi / 180);  // (the_wall_uses_a_short_pi)
     const double share = std::floor((1 + climb) / 2 * kWhole);
     Ring ring{PreparedRing(bank_ + number, fanFor(bank_ + number).directions),
               climb,

@@ -24,7 +24,6 @@ class CanyonWall {
     void carveAt(double x, double y);
 
   private:
-    static constexpr int kHeights = 256;
     static constexpr int kSpacings = 3;
 
     // Directions of one spacing, with the height of the rim in each around the present place.

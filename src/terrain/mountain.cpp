@@ -4,6 +4,7 @@
 #include <span>
 #include <utility>
 
+#include "core/angles.h"
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/objects.h"
@@ -18,8 +19,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr double kRadian = 3.14159 / 180;  // Required: five decimals
-                                           // (the_far_flank_uses_a_short_pi)
+constexpr double kRadian = kShortPi / 180;  // Required (the_far_flank_uses_a_short_pi)
 
 struct Steepness {
     int button;
@@ -82,10 +82,9 @@ class FlankDirections {
     static constexpr int kCoarseCount = 721;
     static constexpr int kFinerCount = 1801;
     static constexpr int kFinestCount = 3601;
-    static constexpr int kTableMiddle = 1080;
 
     static std::pair<double, double> fromTable(double degrees) {
-        const int entry = kTableMiddle + static_cast<int>(roundToEven(3 * degrees));
+        const int entry = kZeroAngle + static_cast<int>(roundToEven(kThirdsInDegree * degrees));
         return {CosTable(entry), SinTable(entry)};
     }
 

@@ -1,13 +1,12 @@
 #include "terrain/ring.h"
 
+#include "core/angles.h"
 #include "platform/wide_vectors.h"
 
 namespace ombrelia {
 
 namespace {
 
-constexpr int kTableMiddle = 1080;  // entry of 0 degrees
-constexpr int kThirds = 3;          // entries to a degree
 constexpr int kDegrees = 360;
 
 // Largest whole number not above value, |value| below 2^31, in a form of which the compiler makes
@@ -77,14 +76,15 @@ Directions Directions::fromTable(int firstThirds, int stepThirds, int count) {
     made.cosines_.reserve(static_cast<std::size_t>(count));
     made.sines_.reserve(static_cast<std::size_t>(count));
     for (int n = 0; n < count; ++n) {
-        const int entry = kTableMiddle + firstThirds + n * stepThirds;
+        const int entry = kZeroAngle + firstThirds + n * stepThirds;
         made.add(CosTable(entry), SinTable(entry));
     }
     return made;
 }
 
 Directions wholeDegrees(int step) {
-    return Directions::fromTable(kThirds, kThirds * step, (kDegrees + step - 1) / step);
+    return Directions::fromTable(kThirdsInDegree, kThirdsInDegree * step,
+                                 (kDegrees + step - 1) / step);
 }
 
 std::span<const std::int32_t> RingCells::find(double x, double y, double r,

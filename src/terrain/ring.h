@@ -20,7 +20,7 @@ inline int floorToInt(double value) {
 // Unit vectors in the order in which a tool takes its samples.
 class Directions {
   public:
-    // count directions from firstThirds on, stepThirds apart, thirds of a degree 0..1080.
+    // count directions from firstThirds on, stepThirds apart, thirds of a degree 0..kThirdsInTurn.
     static Directions fromTable(int firstThirds, int stepThirds, int count);
 
     // One more direction.

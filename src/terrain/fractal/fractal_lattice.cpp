@@ -230,7 +230,6 @@ bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
                           std::vector<std::uint8_t>& bytes) {
     const int size = cells + 1;
     const double mean = meanOf(values, size * size);
-    constexpr std::uint8_t kThird = 230;  // 229.5 rounded
     announceFractalPart(FractalPart, cells - 1);
     std::array<std::uint8_t, 256> firsts{};
     std::uint8_t* out = bytes.data();
@@ -239,7 +238,7 @@ bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
         for (int j = 0; j <= cells - 1; ++j, out += 3) {
             out[0] = firsts[static_cast<std::size_t>(j)];
             out[1] = firsts[static_cast<std::size_t>(j)];
-            out[2] = kThird;
+            out[2] = kThirdLatticeByte;
         }
         if (StopFlag == 1) {
             return false;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <optional>
 
+#include "core/angles.h"
 #include "core/button_numbers.h"
 #include "core/buttons.h"
 #include "core/objects.h"
@@ -26,8 +27,6 @@ constexpr int kLowestDetail = 1;
 constexpr int kHighestDetail = 8;
 constexpr int kLastPoint = HeightGrid::kLast;
 constexpr int kBytesLast = 203162;  // last subscript of FractalBytes
-constexpr int kFullDetail = 256;    // lattice that needs no interpolation
-constexpr double kPi = 3.14159;     // Required: five decimals (interpolation_uses_short_pi)
 
 // Height of a lattice point from the sum of its three bytes.
 std::int16_t heightOf(int byteSum, int height) {
@@ -50,18 +49,17 @@ class HeightLookup {
         }
         height_ = height;
         for (std::size_t byte = 0; byte < heights_.size(); ++byte) {
-            heights_[byte] = heightOf(2 * static_cast<int>(byte) + kThirdByte, height);
+            heights_[byte] = heightOf(2 * static_cast<int>(byte) + kThirdLatticeByte, height);
         }
     }
     std::int16_t operator()(const std::uint8_t* bytes) const {
-        return bytes[2] == kThirdByte ? heights_[bytes[0]]
-                                      : heightOf(bytes[0] + bytes[1] + bytes[2], *height_);
+        return bytes[2] == kThirdLatticeByte ? heights_[bytes[0]]
+                                             : heightOf(bytes[0] + bytes[1] + bytes[2], *height_);
     }
 
   private:
-    static constexpr int kThirdByte = 230;
     std::optional<int> height_;  // that heights_ were made for
-    std::array<std::int16_t, 256> heights_{};
+    std::array<std::int16_t, kHeights> heights_{};
 };
 
 // One column of the lattice; bytes that lie beyond the map are passed over.
@@ -94,12 +92,14 @@ bool placeHeights(int step, const std::int16_t& height) {
     return true;
 }
 
-// Blend weights across one lattice cell: a raised sine from 0 towards 1.
+// Blend weights across one lattice cell: a raised sine from 0 towards 1. Required: a pi of five
+// decimals (interpolation_uses_short_pi).
 std::array<double, 128> blendWeights(int step) {
     std::array<double, 128> weights{};
     for (int k = 0; k < step; ++k) {
         const double share = static_cast<double>(k) / step;
-        weights[static_cast<std::size_t>(k)] = (std::sin((share * 180 - 90) * (kPi / 180)) + 1) / 2;
+        weights[static_cast<std::size_t>(k)] =
+            (std::sin((share * 180 - 90) * (kShortPi / 180)) + 1) / 2;
     }
     return weights;
 }
@@ -188,7 +188,7 @@ void GenerateFractalTerrain(double& h, std::int16_t& height) {
     if (!placeHeights(step, height)) {
         return;
     }
-    if (FractalSide != kFullDetail && !blendBetween(step)) {
+    if (FractalSide != kLatticeExtent && !blendBetween(step)) {
         return;
     }
     ProgressState = 2;

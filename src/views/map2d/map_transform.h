@@ -1,10 +1,12 @@
 // The viewport MapView as a stretched copy of the back buffer Mapview2, under zoom and pan.
 #pragma once
 
+#include "core/objects.h"
+
 namespace ombrelia {
 
 // Side of the viewport and of the back buffer, pixels.
-inline constexpr int kViewSide = 257;
+inline constexpr int kViewSide = kLargeSize;
 
 // Clamps zoom and pan, sets the scale of MapView from them and copies the back buffer.
 void ApplyMapTransform();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/angles.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "platform/numeric.h"
@@ -13,10 +14,8 @@ namespace turn {
 
 namespace {
 
-constexpr double kDegrees = 180 / kPi;
-constexpr double kNudge = 0.0002;  // added to a divisor of 0
-constexpr int kZeroAngle = 1080;   // subscript of 0 degrees
-constexpr int kPerDegree = 3;
+constexpr double kDegrees = 180 / kShortPi;  // Required (rotation_uses_the_short_pi)
+constexpr double kNudge = 0.0002;            // added to a divisor of 0
 
 // The angle of (along, up) in degrees, turned by angle; at most 360, never raised.
 double turnedAngle(double along, double up, int angle) {
@@ -38,11 +37,13 @@ double turnedAngle(double along, double up, int angle) {
 // Required: the first turn rounds down, the second to nearest
 // (the_two_turns_pick_their_table_entries_differently).
 int groundSubscript(double dx, double dy) {
-    return static_cast<int>(floorToWhole(kPerDegree * turnedAngle(dx, dy, ViewYaw))) + kZeroAngle;
+    return static_cast<int>(floorToWhole(kThirdsInDegree * turnedAngle(dx, dy, ViewYaw))) +
+           kZeroAngle;
 }
 
 int tiltSubscript(double depth, double z) {
-    return static_cast<int>(roundToEven(kPerDegree * turnedAngle(depth, z, ViewTilt))) + kZeroAngle;
+    return static_cast<int>(roundToEven(kThirdsInDegree * turnedAngle(depth, z, ViewTilt))) +
+           kZeroAngle;
 }
 
 }  // namespace turn
@@ -61,9 +62,6 @@ RotatedPoint RotatePoint(double x, double y, double z, double centre) {
 
 namespace {
 
-constexpr double kFocalLength = 256;
-constexpr double kDepthShift = 100;
-constexpr double kRise = 80;  // pixels that the picture is lifted
 constexpr double kPivotShift = 0.2;
 
 }  // namespace
@@ -71,13 +69,13 @@ constexpr double kPivotShift = 0.2;
 void ProjectPoint(const RotatedPoint& point, double& X, double& Y) {
     const double a = point.rx + ViewPanX;
     const double b = point.rz - ViewPanY;
-    const double depth = point.ry + ViewZoom - kDepthShift;
-    const double q = kFocalLength - depth;
+    const double depth = point.ry + ViewZoom - eye::kDepthShift;
+    const double q = eye::kFocalLength - depth;
     if (q != 0) {
-        X = MapSize + kFocalLength * a / q;
-        Y = MapSize - kFocalLength * b / q;
+        X = MapSize + eye::kFocalLength * a / q;
+        Y = MapSize - eye::kFocalLength * b / q;
     }
-    Y = Y - kRise + ViewOffset;
+    Y = Y - eye::kRise + ViewOffset;
     X = X + MapSize / 2.0 + ViewOffset;
 }
 

@@ -17,10 +17,17 @@ RotatedPoint RotatePoint(double x, double y, double z, double centre);
 // where the point lies in the plane of the eye, apart from the final shift.
 void ProjectPoint(const RotatedPoint& point, double& X, double& Y);
 
+// The eye of ProjectPoint.
+namespace eye {
+
+inline constexpr double kFocalLength = 256;
+inline constexpr double kDepthShift = 100;
+inline constexpr double kRise = 80;  // pixels that the picture is lifted
+
+}  // namespace eye
+
 // The steps of RotatePoint one by one.
 namespace turn {
-
-inline constexpr double kPi = 3.14159;  // Required: five decimals (rotation_uses_the_short_pi)
 
 // Subscript of the angle tables for the turn in the ground plane (dx, dy from the pivot) and for
 // the turn in the plane of depth and height. Not checked.

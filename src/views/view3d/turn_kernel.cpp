@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/angles.h"
 #include "core/objects.h"
 #include "platform/wide_vectors.h"
 #include "views/view3d/cell_painters.h"
@@ -16,9 +17,7 @@ using Reals = std::array<double, kMost>;
 using Singles = std::array<float, kMost>;
 using Wholes = std::array<std::int32_t, kMost>;
 
-constexpr int kHalfTurn = 540;    // thirds of a degree
-constexpr int kWholeTurn = 1080;  // as well the subscript of 0 degrees
-constexpr int kPerDegree = 3;
+constexpr int kHalfTurn = kThirdsInTurn / 2;
 
 // Nearer to a jump of the subscript than this, the exact arc tangent decides.
 constexpr float kDoubt = 2 * kThirdsError;
@@ -54,7 +53,7 @@ OMBRELIA_IN_BOTH std::int32_t floorOf(float value) {
 OMBRELIA_IN_BOTH void pickSubscripts(int count, const Singles& along, const Singles& up,
                                      float shift, int angle, Wholes& subscripts,
                                      Wholes& isInDoubt) {
-    const int turned = kPerDegree * angle;
+    const int turned = kThirdsInDegree * angle;
     for (int i = 0; i < count; ++i) {
         const auto n = static_cast<std::size_t>(i);
         const float thirds = thirdsOf(along[n], up[n]) + shift;
@@ -63,8 +62,8 @@ OMBRELIA_IN_BOTH void pickSubscripts(int count, const Singles& along, const Sing
         const std::int32_t sum = whole + turned + (along[n] >= 0 ? kHalfTurn : 0);
         // A whole turn stays one, anything above begins anew: the exact way tells them apart.
         isInDoubt[n] =
-            (rest < kDoubt) | (rest > 1 - kDoubt) | (along[n] == 0) | (sum == kWholeTurn);
-        subscripts[n] = sum > kWholeTurn ? sum : sum + kWholeTurn;
+            (rest < kDoubt) | (rest > 1 - kDoubt) | (along[n] == 0) | (sum == kThirdsInTurn);
+        subscripts[n] = sum > kThirdsInTurn ? sum : sum + kThirdsInTurn;
     }
 }
 
@@ -121,12 +120,12 @@ OMBRELIA_IN_BOTH bool divide(int count, const Reals& across, const Reals& depth,
     std::int32_t isFar = 0;
     for (int i = 0; i < count; ++i) {
         const auto n = static_cast<std::size_t>(i);
-        const double q = 256 - (depth[n] + camera.zoom - 100);
-        const double X = size + 256 * (across[n] + camera.panX) / q;
-        const double Y = size - 256 * (up[n] - camera.panY) / q;
+        const double q = eye::kFocalLength - (depth[n] + camera.zoom - eye::kDepthShift);
+        const double X = size + eye::kFocalLength * (across[n] + camera.panX) / q;
+        const double Y = size - eye::kFocalLength * (up[n] - camera.panY) / q;
         view.q[n] = q;
         view.X[n] = X + half + camera.offset - size;
-        view.Y[n] = Y - 80 + camera.offset;
+        view.Y[n] = Y - eye::kRise + camera.offset;
     }
     for (int i = 0; i < count; ++i) {
         const auto n = static_cast<std::size_t>(i);
