@@ -5,6 +5,7 @@
 #include "core/button_table.h"
 #include "core/option_strip_table.h"
 #include "core/windows/form1.h"
+#include "platform/dispatch.h"
 #include "platform/numeric.h"
 
 namespace ombrelia {
@@ -52,7 +53,7 @@ void SetToolsEnabled(bool enabled) {
     Form1.MapView.Enabled = enabled;
 }
 
-void announceWork(const std::string& text, std::int32_t total) {
+void LongRun::announce(const std::string& text, std::int32_t total) {
     Form1.WorkWhat.Caption = text;
     ProgressState = 1;
     ProgressTotal = total;
@@ -65,8 +66,17 @@ void requestStop() {
     Form1.Line1.Visible = false;
 }
 
-bool noteStop() {
-    if (StopFlag != 1) {
+void LongRun::yield() {
+    yieldToEvents();
+}
+
+void LongRun::yieldAt(std::int32_t position) {
+    moveTo(position);
+    yield();
+}
+
+bool LongRun::noteStop() {
+    if (!isAskedToStop()) {
         return false;
     }
     StopFlag = 2;

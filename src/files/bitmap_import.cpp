@@ -9,7 +9,6 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
@@ -117,8 +116,7 @@ void samplePicture(const PictureHeights& heights, int width, int height) {
             const auto y = static_cast<int>(roundToEven(placeOnMap(b, height)));
             writePoint(x, y, heights.at(a, b));
         }
-        ProgressDone = static_cast<std::int32_t>(floorToWhole(placeOnMap(a, width)));
-        yieldToEvents();
+        LongRun::yieldAt(static_cast<std::int32_t>(floorToWhole(placeOnMap(a, width))));
     }
 }
 
@@ -127,8 +125,7 @@ void copyPicture(const PictureHeights& heights) {
         for (int b = 0; b <= MapSize; ++b) {
             writePoint(a, b, heights.at(a, b));
         }
-        ProgressDone = a;
-        yieldToEvents();
+        LongRun::yieldAt(a);
     }
 }
 
@@ -147,9 +144,9 @@ void takeHeights(Surface& picture) {
     const int height = buffer.height();
     takePlan(width, height);
     // Required: the tools are enabled from here on (an_import_leaves_the_tools_enabled).
-    SetToolsEnabled(true);
+    const LongRun run(LongRun::Tools::Free);
     StopFlag = 0;
-    announceWork("Loading Image", ImportTarget);
+    LongRun::announce("Loading Image", ImportTarget);
     const PictureHeights heights(Form1.Mapview2.Canvas);
     if (ImportDirect == 0) {
         samplePicture(heights, width, height);
@@ -192,7 +189,7 @@ bool importPicture() {
         services().pictures->loadPicture(name, picture);
         takeHeights(picture);
     }
-    ProgressState = 2;
+    LongRun::tellEnd();
     Form1.Label11.Caption = AppName + sizeSuffix();
     UpdateMapView(1);
     return true;

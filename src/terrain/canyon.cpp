@@ -10,7 +10,6 @@
 #include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
-#include "platform/dispatch.h"
 #include "terrain/canyon_wall.h"
 #include "terrain/disc_brush.h"
 #include "terrain/marker.h"
@@ -44,11 +43,10 @@ int chosenEdge() {
 
 // Sets the present position after a segment. False if the work was stopped.
 bool endSegment(int done) {
-    if (noteStop()) {
+    if (LongRun::noteStop()) {
         return false;
     }
-    ProgressDone = done;
-    yieldToEvents();
+    LongRun::yieldAt(done);
     return true;
 }
 
@@ -78,7 +76,7 @@ bool carve(int bank, int edge) {
             }
             moveMarker(x, y);
             if (ProgressState == 1) {
-                yieldToEvents();
+                LongRun::yield();
             }
         }
         if (!endSegment(i)) {
@@ -108,11 +106,11 @@ bool layRiver(int width) {
     return true;
 }
 
-void finish() {
-    ProgressState = 2;
+void finish(const LongRun& run) {
+    LongRun::tellEnd();
     Form1.PercDone.Caption = "100 Percent Done";
     Form1.Line1.Visible = false;
-    SetToolsEnabled(true);
+    run.giveToolsBack();
     if (isOn(button::kAutoRefresh)) {
         RefreshAfterEdit();
     }
@@ -132,12 +130,12 @@ void CarveCanyon() {
     const int river = SliderValues(slider::kRiverWidth).Value;
     const int edge = chosenEdge();
     const bool hasRiver = isOn(button::kRiverInMiddle);
-    SetToolsEnabled(false);
-    announceWork("Calculating Your Canyon", hasRiver ? StrokeCount * 2 - 4 : StrokeCount - 2);
+    const LongRun run;
+    LongRun::announce("Calculating Your Canyon", hasRiver ? StrokeCount * 2 - 4 : StrokeCount - 2);
     if (!carve(bank, edge) || (hasRiver && !layRiver(river))) {
         return;
     }
-    finish();
+    finish(run);
 }
 
 }  // namespace ombrelia

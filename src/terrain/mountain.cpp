@@ -10,7 +10,6 @@
 #include "core/objects.h"
 #include "core/option_strip_table.h"
 #include "core/progress.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "terrain/ring.h"
 #include "views/map2d/update_map_view.h"
@@ -54,9 +53,8 @@ bool shapeTop(int x, int y, const MountainShape& shape, RingCells& ring) {
     const Directions directions = Directions::fromTable(0, 3, 361);
     for (int r = 1; r <= shape.topSize; ++r) {
         placeRing(ring.changesAt(x, y, r, directions), shape.height, shape.onlyRaises);
-        ProgressDone = r;
-        yieldToEvents();
-        if (noteStop()) {
+        LongRun::yieldAt(r);
+        if (LongRun::noteStop()) {
             return false;
         }
     }
@@ -125,11 +123,10 @@ bool shapeFlank(int x, int y, const MountainShape& shape, RingCells& ring) {
         if (h < 0) {
             return true;
         }
-        if (noteStop()) {
+        if (LongRun::noteStop()) {
             return false;
         }
-        ProgressDone = r;
-        yieldToEvents();
+        LongRun::yieldAt(r);
     }
     return true;
 }
@@ -146,16 +143,16 @@ bool shapeMountain(int x, int y, const MountainShape& shape) {
 
 void BuildMountain(std::int16_t x, std::int16_t y) {
     forgetStop();
-    SetToolsEnabled(false);
+    const LongRun run;
     const int height = SliderValues(slider::kMountainHeight).Value;
     const MountainShape shape{height, SliderValues(slider::kMountainTop).Value, sideFor(height),
                               isOn(button::kOnlyLower)};
-    announceWork("Calculating Your Mountain", shape.side + shape.topSize);
+    LongRun::announce("Calculating Your Mountain", shape.side + shape.topSize);
     if (!shapeMountain(x, y, shape)) {
         return;
     }
-    ProgressState = 2;
-    SetToolsEnabled(true);
+    LongRun::tellEnd();
+    run.giveToolsBack();
     if (isOn(button::kAutoRefresh)) {
         RefreshAfterEdit();
     }

@@ -9,7 +9,6 @@
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
 #include "terrain/disc_brush.h"
@@ -62,11 +61,11 @@ bool drawSegment(const PathSegment& segment, bool isLine, Pen& pen) {
         pen.touch(x, y);
         moveMarker(x, y);
         if (isLine) {
-            ProgressDone = t;
+            LongRun::moveTo(t);
             refreshControl(Form1.MapView);
-            yieldToEvents();
+            LongRun::yield();
         }
-        if (noteStop()) {
+        if (LongRun::noteStop()) {
             return false;
         }
     }
@@ -82,15 +81,15 @@ bool drawSegments(int last, bool isLine) {
             continue;
         }
         if (isLine) {
-            ProgressTotal = segment.steps;
+            LongRun::setTotal(segment.steps);
         }
         if (!drawSegment(segment, isLine, pen)) {
             return false;
         }
         if (!isLine) {
-            ProgressDone = i;
+            LongRun::moveTo(i);
         }
-        yieldToEvents();
+        LongRun::yield();
     }
     return true;
 }
@@ -102,17 +101,17 @@ void DrawStroke(std::int16_t mode) {
     if (StrokeCount < 3) {
         return;
     }
-    SetToolsEnabled(false);
+    const LongRun run;
     Form1.Line1.Visible = true;
     const bool isLine = mode == kLineStroke;
     const int last = isLine ? StrokeCount - 1 : StrokeCount - 2;
-    announceWork(isLine ? "Drawing Line" : "Drawing Pencil", isLine ? ProgressTotal : last);
+    LongRun::announce(isLine ? "Drawing Line" : "Drawing Pencil", isLine ? ProgressTotal : last);
     if (!drawSegments(last, isLine)) {
         return;
     }
     Form1.Line1.Visible = false;
-    SetToolsEnabled(true);
-    ProgressState = 2;
+    run.giveToolsBack();
+    LongRun::tellEnd();
     if (isOn(button::kAutoRefresh)) {
         RefreshAfterEdit();
     }

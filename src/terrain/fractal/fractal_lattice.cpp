@@ -6,7 +6,6 @@
 #include <string>
 
 #include "core/progress.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/services.h"
 #include "terrain/fractal/fractal_state.h"
@@ -46,11 +45,11 @@ struct Level {
 
 // False when the run was stopped.
 bool endRow(int i) {
-    yieldToEvents();
-    if (StopFlag == 1) {
+    LongRun::yield();
+    if (LongRun::isAskedToStop()) {
         return false;
     }
-    ProgressDone = i;
+    LongRun::moveTo(i);
     return true;
 }
 
@@ -197,7 +196,7 @@ double AverageDiamondNeighbours(int i, int j, int s, int S, int E, const double*
 }
 
 void announceFractalPart(int part, std::int32_t total) {
-    announceWork(
+    LongRun::announce(
         "Generating Fractal Part " + std::to_string(part) + "/" + std::to_string(FractalParts + 3),
         total);
 }
@@ -240,11 +239,11 @@ bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
             out[1] = firsts[static_cast<std::size_t>(j)];
             out[2] = kThirdLatticeByte;
         }
-        if (StopFlag == 1) {
+        if (LongRun::isAskedToStop()) {
             return false;
         }
-        yieldToEvents();
-        ProgressDone = i;
+        LongRun::yield();
+        LongRun::moveTo(i);
     }
     return true;
 }

@@ -11,7 +11,6 @@
 #include "core/objects.h"
 #include "core/option_strip_table.h"
 #include "core/progress.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/services.h"
 #include "terrain/fractal/fractal_lattice.h"
@@ -83,9 +82,8 @@ bool placeHeights(int step, const std::int16_t& height) {
         lookup.update(height);
         placeColumn(x, step, bytes, lookup);
         bytes += 3 * (kLatticeExtent / step);
-        ProgressDone = x;
-        yieldToEvents();
-        if (noteStop()) {
+        LongRun::yieldAt(x);
+        if (LongRun::noteStop()) {
             return false;
         }
     }
@@ -142,10 +140,9 @@ bool blendBetween(int step) {
     for (int x = 0; x <= kLastPoint; x += step) {
         for (int y = 1; y <= kLastPoint; y += step) {
             blendBlock(x, y, step, weights);
-            ProgressDone = x;
-            yieldToEvents();
+            LongRun::yieldAt(x);
         }
-        if (noteStop()) {
+        if (LongRun::noteStop()) {
             return false;
         }
     }
@@ -161,7 +158,7 @@ void prepareArrays() {
 }  // namespace
 
 void GenerateCommand() {
-    SetToolsEnabled(false);
+    const LongRun run;  // which leaves the tools to the refresh or the tick
     double h = SliderValues(slider::kSmoothness).Value / 10.0;
     GenerateFractalTerrain(h, SliderValues(slider::kFractalHeight).Value);
     if (isOn(button::kAutoRefresh)) {
@@ -178,7 +175,7 @@ void GenerateFractalTerrain(double& h, std::int16_t& height) {
     prepareArrays();
     services().random->seedFromClock();
     FillFractalValues(FractalValues, FractalSide, 5, 1.0, h);
-    if (noteStop()) {
+    if (LongRun::noteStop()) {
         return;
     }
     // Required: a stop in here takes effect after the first column of the heights
@@ -191,7 +188,7 @@ void GenerateFractalTerrain(double& h, std::int16_t& height) {
     if (FractalSide != kLatticeExtent && !blendBetween(step)) {
         return;
     }
-    ProgressState = 2;
+    LongRun::tellEnd();
 }
 
 }  // namespace ombrelia

@@ -10,7 +10,6 @@
 #include "core/objects.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
 #include "views/map2d/cell_row.h"
@@ -118,9 +117,8 @@ bool paintRows(int step) {
         } else {
             painter.paintBoxes(y, step);
         }
-        ProgressDone = y * afterLoop(MapSize, step);
-        yieldToEvents();
-        if (noteStop()) {
+        LongRun::yieldAt(y * afterLoop(MapSize, step));
+        if (LongRun::noteStop()) {
             return false;
         }
     }
@@ -130,19 +128,19 @@ bool paintRows(int step) {
 }  // namespace
 
 void UpdateMapView(int step) {
-    SetToolsEnabled(false);
+    const LongRun run;
     SwitchViewMode(kMode2D);
     const double side = MapSize + 1.0;
-    announceWork("Updating View", roundToInt32(side * side));
+    LongRun::announce("Updating View", roundToInt32(side * side));
     if (!paintRows(step)) {
         return;
     }
-    ProgressState = 2;
+    LongRun::tellEnd();
     if (step == 1) {
         ApplyMapTransform();
     }
     refreshControl(Form1.MapView);
-    SetToolsEnabled(true);
+    run.giveToolsBack();
 }
 
 void RefreshAfterEdit() {

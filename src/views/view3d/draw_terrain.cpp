@@ -12,7 +12,6 @@
 #include "core/option_strip_table.h"
 #include "core/progress.h"
 #include "core/windows/form1.h"
-#include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
 #include "views/view3d/cell_painters.h"
@@ -22,7 +21,6 @@
 namespace ombrelia {
 
 namespace {
-
 
 struct Quadrant {
     std::int16_t lastYaw;  // degrees
@@ -109,9 +107,8 @@ bool showRun(const Walk& walk, int outer) {
     refreshControl(Form1.MapView);
     const int inner = counterAfter(walk);
     const int side = walk.last + 1;
-    ProgressDone = walk.step > 0 ? outer * inner : (side - outer) * (side - std::abs(inner));
-    yieldToEvents();
-    return noteStop();
+    LongRun::yieldAt(walk.step > 0 ? outer * inner : (side - outer) * (side - std::abs(inner)));
+    return LongRun::noteStop();
 }
 
 // True when it ran to the end.
@@ -136,10 +133,11 @@ void DrawTerrain3D(int step, int mode) {
     step = std::max(step, 1);
     Surface& view = Form1.MapView.Canvas;
     setViewOffset();
+    std::optional<LongRun> run;
     if (mode == kFullDrawing) {
-        SetToolsEnabled(false);
+        run.emplace();
         const double side = MapSize + step;
-        announceWork("Calculating 3D View", roundToInt32(side * side));
+        LongRun::announce("Calculating 3D View", roundToInt32(side * side));
     }
     view.DrawWidth = mode == kFullDrawing ? SliderValues(slider::kDrawWidth).Value : 1;
     view.clear();
@@ -147,9 +145,9 @@ void DrawTerrain3D(int step, int mode) {
         return;
     }
     view.DrawWidth = 1;
-    if (mode == kFullDrawing) {
-        SetToolsEnabled(true);
-        ProgressState = 2;
+    if (run) {
+        run->giveToolsBack();
+        LongRun::tellEnd();
     }
 }
 

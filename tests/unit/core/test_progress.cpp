@@ -6,6 +6,7 @@
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
 #include "platform/dispatch.h"
+#include "platform/failure.h"
 
 namespace ombrelia {
 
@@ -60,8 +61,43 @@ TEST_F(Progress, the_light_is_red_while_tools_are_disabled) {
     EXPECT_EQ(Form1.NTool(122).Face, (PictureFace{Picture::Traffic, 0}));
 }
 
+TEST_F(Progress, a_run_locks_the_tools_until_it_gives_them_back) {
+    {
+        const LongRun run;
+        EXPECT_FALSE(Form1.MapView.Enabled);
+        run.giveToolsBack();
+        EXPECT_TRUE(Form1.MapView.Enabled);
+    }
+    EXPECT_TRUE(Form1.MapView.Enabled);
+    SetToolsEnabled(false);
+    const LongRun beside(LongRun::Tools::Free);
+    EXPECT_TRUE(Form1.MapView.Enabled);
+}
+
+TEST_F(Progress, a_run_that_goes_without_its_end_leaves_all_to_the_tick_or_the_repair) {
+    const auto fail = [] {
+        const LongRun run;
+        LongRun::announce("Digging", 10);
+        LongRun::moveTo(3);
+        throw Failure("no spade");
+    };
+    EXPECT_THROW(fail(), Failure);
+    EXPECT_FALSE(Form1.MapView.Enabled);
+    EXPECT_EQ(ProgressState, 1);
+    EXPECT_EQ(ProgressDone, 3);
+}
+
+TEST_F(Progress, a_yield_at_a_position_tells_the_position_first) {
+    const long before = yieldCount();
+    LongRun::yieldAt(7);
+    EXPECT_EQ(ProgressDone, 7);
+    EXPECT_EQ(yieldCount(), before + 1);
+    platform.OnYield = [] { EXPECT_EQ(ProgressDone, 8); };
+    LongRun::yieldAt(8);
+}
+
 TEST_F(Progress, announcing_names_the_work_and_starts_it) {
-    announceWork("Digging", 77);
+    LongRun::announce("Digging", 77);
     EXPECT_EQ(Form1.WorkWhat.Caption, "Digging");
     EXPECT_EQ(ProgressTotal, 77);
     EXPECT_EQ(ProgressState, 1);
@@ -120,7 +156,7 @@ TEST_F(Progress, nothing_is_painted_while_the_position_stands) {
 TEST_F(Progress, a_run_swaps_the_panels_and_its_end_swaps_them_back) {
     EXPECT_TRUE(isStripShown());
     SetToolsEnabled(false);
-    announceWork("Digging", 10);
+    LongRun::announce("Digging", 10);
     EXPECT_TRUE(isStripShown());
     tick();
     EXPECT_TRUE(isPanelShown());
@@ -132,7 +168,7 @@ TEST_F(Progress, a_run_swaps_the_panels_and_its_end_swaps_them_back) {
 
 TEST_F(Progress, a_stop_ends_tick_by_tick) {
     SetToolsEnabled(false);
-    announceWork("Digging", 100);
+    LongRun::announce("Digging", 100);
     ProgressDone = 30;
     tick();
     EXPECT_TRUE(isPanelShown());
@@ -144,7 +180,7 @@ TEST_F(Progress, a_stop_ends_tick_by_tick) {
     tick();  // not noted yet
     EXPECT_EQ(StopFlag, 1);
     EXPECT_FALSE(Form1.MapView.Enabled);
-    EXPECT_TRUE(noteStop());
+    EXPECT_TRUE(LongRun::noteStop());
     EXPECT_EQ(StopFlag, 2);
     EXPECT_EQ(ProgressState, 1);
     Form1.Line1.Visible = true;
@@ -161,10 +197,10 @@ TEST_F(Progress, a_stop_ends_tick_by_tick) {
 }
 
 TEST_F(Progress, only_a_stop_that_was_asked_for_is_noted) {
-    EXPECT_FALSE(noteStop());
+    EXPECT_FALSE(LongRun::noteStop());
     EXPECT_EQ(StopFlag, 0);
     StopFlag = 2;
-    EXPECT_FALSE(noteStop());
+    EXPECT_FALSE(LongRun::noteStop());
     EXPECT_EQ(StopFlag, 2);
 }
 

@@ -313,7 +313,7 @@ TEST_F(Startup, an_unloaded_editor_goes_away_even_on_no) {
 TEST_F(Startup, a_failure_is_followed_by_a_desk_in_order) {
     startWith(80);
     SetToolsEnabled(false);
-    announceWork("Digging", 5);
+    LongRun::announce("Digging", 5);
     showProgress();
     StopFlag = 2;
     MouseState = 5;
