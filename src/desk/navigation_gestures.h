@@ -16,7 +16,7 @@ void beginNavigation(float x, float y);
 void navigate(float x, float y);
 
 // The advanced mode's double click takes the pan tool; false if nothing is to happen.
-bool takePanTool();
+[[nodiscard]] bool takePanTool();
 
 // The map from above: a drag by the pointer's place in the window zooms or pans it.
 void beginMapZoom();

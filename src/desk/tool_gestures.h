@@ -15,7 +15,7 @@ struct MapPlace {
 void pressTools(const MapPlace& at);
 
 // False when a path is full: the handler then returns at once.
-bool moveTools(const MapPlace& at);
+[[nodiscard]] bool moveTools(const MapPlace& at);
 
 void releaseTools(const MapPlace& at);
 

@@ -7,7 +7,7 @@ namespace ombrelia {
 
 // Asks for a picture and makes it the map: heights, MapSize, title, view. False on Cancel and when
 // there is nothing of that name. Throws PictureFailure, with the map and the back buffer as before.
-bool importPicture();
+[[nodiscard]] bool importPicture();
 
 // How a picture is brought to one of the four sizes.
 struct ImportPlan {
@@ -16,7 +16,7 @@ struct ImportPlan {
 };
 
 // For the smaller side of the picture, in pixels.
-ImportPlan planImport(int smallerSide);
+[[nodiscard]] ImportPlan planImport(int smallerSide);
 
 // Height of a packed colour: the mean of its components; -1 (outside the picture) gives 0.
 std::int16_t heightOfColor(std::int32_t color);

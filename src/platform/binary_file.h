@@ -43,7 +43,7 @@ class BinaryFile {
 // Makes a new file that appears under its name with all its bytes or, whatever happens, not at all.
 // False if something of this name is there or the file system offers no such way; nothing has
 // happened then. Throws FileFailure.
-bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
+[[nodiscard]] bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
 // Whether there is an ordinary file, or a link to one, of this name.
 bool isOrdinaryFile(const std::string& path);

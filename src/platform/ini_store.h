@@ -16,10 +16,10 @@ namespace ombrelia {
 using IniSections = std::map<std::string, std::map<std::string, std::string>>;
 
 // Reads an INI text; what cannot be understood is left out and isMalformed set.
-IniSections parseIni(std::string_view text, bool& isMalformed);
+[[nodiscard]] IniSections parseIni(std::string_view text, bool& isMalformed);
 
 // The text of the sections: what would be misread stands as % and two hexadecimal digits.
-std::string formatIni(const IniSections& sections);
+[[nodiscard]] std::string formatIni(const IniSections& sections);
 
 class IniStore : public SettingsStore {
   public:
@@ -37,11 +37,11 @@ class IniStore : public SettingsStore {
     // Writes what was changed since the last time into the file, beside what another editor may
     // have written there. A malformed file is copied aside first, to its name and ".damaged". Empty
     // when all went well, otherwise a sentence for the user; the file is then as it was.
-    std::string commit();
+    [[nodiscard]] std::string commit();
 
   private:
     void load();
-    std::string writeMerged();
+    [[nodiscard]] std::string writeMerged();
 
     std::string path_;
     bool isPatient_ = true;  // waits for another editor that holds the file; not twice in vain

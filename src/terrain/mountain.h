@@ -13,7 +13,7 @@ struct MountainShape {
 };
 
 // Builds it around (x, y), circle by circle, with a yield after each. False if it was stopped.
-bool shapeMountain(int x, int y, const MountainShape& shape);
+[[nodiscard]] bool shapeMountain(int x, int y, const MountainShape& shape);
 
 // The object at a released pointer; reads sliders and options, shows progress, refreshes if that
 // is wished.

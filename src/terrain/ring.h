@@ -21,7 +21,7 @@ inline int floorToInt(double value) {
 class Directions {
   public:
     // count directions from firstThirds on, stepThirds apart, thirds of a degree 0..kThirdsInTurn.
-    static Directions fromTable(int firstThirds, int stepThirds, int count);
+    [[nodiscard]] static Directions fromTable(int firstThirds, int stepThirds, int count);
 
     // One more direction.
     void add(double cosine, double sine) {
@@ -39,7 +39,7 @@ class Directions {
 };
 
 // Every whole degree 1..360, as most circles are drawn.
-Directions wholeDegrees(int step = 1);
+[[nodiscard]] Directions wholeDegrees(int step = 1);
 
 // Subscripts in HeightMap's data of the samples of one circle; kOutside for those beyond the map.
 class RingCells {
@@ -47,17 +47,18 @@ class RingCells {
     static constexpr std::int32_t kOutside = -1;
 
     // The circle of radius r around (x, y) on a map of 0..MapSize; holds until the next call.
-    std::span<const std::int32_t> at(double x, double y, double r, const Directions& directions) {
+    [[nodiscard]] std::span<const std::int32_t> at(double x, double y, double r,
+                                                   const Directions& directions) {
         return find(x, y, r, directions, r);
     }
 
     // The same, but of samples that follow one another in one cell only the first.
-    std::span<const std::int32_t> changesAt(double x, double y, double r,
-                                            const Directions& directions);
+    [[nodiscard]] std::span<const std::int32_t> changesAt(double x, double y, double r,
+                                                          const Directions& directions);
 
     // The places (x, y) + offset, none of which is further than reach away on either axis.
-    std::span<const std::int32_t> atOffsets(double x, double y, const Directions& offsets,
-                                            double reach) {
+    [[nodiscard]] std::span<const std::int32_t> atOffsets(double x, double y,
+                                                          const Directions& offsets, double reach) {
         return find(x, y, 1, offsets, reach);
     }
 

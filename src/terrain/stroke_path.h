@@ -15,6 +15,6 @@ struct PathSegment {
 };
 
 // From the recorded point i to point i + 1.
-PathSegment pathSegment(int i);
+[[nodiscard]] PathSegment pathSegment(int i);
 
 }  // namespace ombrelia

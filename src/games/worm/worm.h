@@ -16,7 +16,7 @@ void PlaceItem();
 
 // The worm fades where it lies, without a pause for other events, and begins anew. True when that
 // was the last life.
-bool LoseLife();
+[[nodiscard]] bool LoseLife();
 
 // Handlers of the window, and of what opens it.
 void Form2_Load(EventArgs& args);

@@ -21,8 +21,8 @@ inline constexpr std::uint8_t kThirdLatticeByte = 230;
 
 // Maps the lattice to bytes 102..230 around its mean; yields after each row. False if it was
 // stopped.
-bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
-                          std::vector<std::uint8_t>& bytes);
+[[nodiscard]] bool FractalValuesToBytes(const std::vector<double>& values, std::int16_t cells,
+                                        std::vector<std::uint8_t>& bytes);
 
 // Puts "Generating Fractal Part part/parts" into the progress panel.
 void announceFractalPart(int part, std::int32_t total);

@@ -180,7 +180,7 @@ void GenerateFractalTerrain(double& h, std::int16_t& height) {
     }
     // Required: a stop in here takes effect after the first column of the heights
     // (a_stop_among_the_bytes_writes_one_column).
-    FractalValuesToBytes(FractalValues, FractalSide, FractalBytes);
+    static_cast<void>(FractalValuesToBytes(FractalValues, FractalSide, FractalBytes));
     const int step = kLatticeExtent / FractalSide;
     if (!placeHeights(step, height)) {
         return;

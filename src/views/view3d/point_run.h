@@ -24,13 +24,13 @@ class PointRun {
     // Projects the points with their heights as they stand, unless that was done already with the
     // same heights and camera. False if one of them needs the long way: a height that a colour
     // look-up would clamp, a point in the plane of the eye, an angle outside 0..360.
-    bool project(const RunCourse& course, const CameraState& camera);
+    [[nodiscard]] bool project(const RunCourse& course, const CameraState& camera);
 
     const PixelPoint& place(int n) const { return places_[static_cast<std::size_t>(n)]; }
     int height(int n) const { return heights_[static_cast<std::size_t>(n)]; }
 
   private:
-    bool takeHeights();
+    [[nodiscard]] bool takeHeights();
 
     RunCourse course_{};
     CameraState camera_{};

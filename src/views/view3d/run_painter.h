@@ -21,10 +21,10 @@ class RunPainter {
     enum class Style { Lines, Dots, Polygons };
 
     // False, with nothing painted, if the run needs the cell painters.
-    bool paint(int outer, Style style);
+    [[nodiscard]] bool paint(int outer, Style style);
 
   private:
-    bool projectRuns(int outer, bool needsFar);
+    [[nodiscard]] bool projectRuns(int outer, bool needsFar);
     void paintLines(int n);
     void paintDot(int n);
     void paintPolygon(int n);

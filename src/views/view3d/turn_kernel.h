@@ -37,8 +37,8 @@ float shortThirds(float along, float up);
 
 // The pixels of the points, rounded down. Angles lie in 0..360. False if a point lies in the plane
 // of the eye; the pixels are then worth nothing.
-bool projectPoints(const PointInput& points, const CameraState& camera,
-                   std::array<PixelPoint, kMost>& places);
+[[nodiscard]] bool projectPoints(const PointInput& points, const CameraState& camera,
+                                 std::array<PixelPoint, kMost>& places);
 
 }  // namespace kernel
 

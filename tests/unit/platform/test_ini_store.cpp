@@ -276,7 +276,7 @@ TEST(ini_store, killed_while_writing_the_file_is_the_old_one_or_the_new_one) {
             for (int i = 0;; ++i) {
                 IniStore store(folder.file());
                 fillWith(store, i % 2 == 0 ? "even" : "odd");
-                store.commit();
+                static_cast<void>(store.commit());
             }
         }
         usleep(static_cast<useconds_t>(random() % 6000));

@@ -263,7 +263,7 @@ TEST_F(Worm, a_death_paints_all_of_the_trail_but_its_last_cell) {
     ColorR = 31;
     ColorG = 31;
     ColorB = 31;
-    LoseLife();
+    EXPECT_FALSE(LoseLife());
     EXPECT_EQ(colorAt(12, 10), rgb(11, 11, 11));
     EXPECT_EQ(colorAt(13, 10), rgb(0, 0, 0));
     EXPECT_EQ(TrailX(4), 13);
