@@ -53,7 +53,7 @@ struct Form1Window : Window {
     ControlArray<Image> VertFiller;
     ControlArray<Label> SliderLabel;  // captions of the sliders
     ControlArray<Label> Readout;      // of the sliders; each has a name of its own
-    ControlArray<Label> FrameText;  // texts in the frames that no handler writes
+    ControlArray<Label> FrameText;    // texts in the frames that no handler writes
 
     // Colour page.
     PictureBox PrefPicker;
