@@ -8,7 +8,7 @@ namespace ombrelia {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 TEST(YieldClock, is_due_after_eight_milliseconds_at_the_latest) {
     YieldClock clock;
@@ -21,15 +21,15 @@ TEST(YieldClock, is_due_after_eight_milliseconds_at_the_latest) {
 
 TEST(YieldClock, is_due_at_most_once_in_four_milliseconds_on_the_whole) {
     YieldClock clock;
-    const auto start = Clock::now();
+    const auto start = SteadyClock::now();
     int times = 0;
-    while (Clock::now() - start < std::chrono::milliseconds(100)) {
+    while (SteadyClock::now() - start < std::chrono::milliseconds(100)) {
         if (clock.isDue()) {
             ++times;
             clock.restart();
         }
     }
-    const std::chrono::duration<double, std::milli> took = Clock::now() - start;
+    const std::chrono::duration<double, std::milli> took = SteadyClock::now() - start;
     EXPECT_GT(times, 0);
     EXPECT_LE(times, took.count() / 4 + 1);
 }
