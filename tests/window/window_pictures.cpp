@@ -3,6 +3,7 @@
 
 #include "album.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form2.h"
 #include "core/windows/help_box.h"
 #include "core/windows/maze_window.h"
