@@ -9,7 +9,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 SRC = ROOT / "src"
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 TOOLKIT_FOLDERS = ("platform/qt",)
-GENERATED = {"platform/skin_pictures.h"}
+GENERATED = {"platform/palette.h", "platform/skin_pictures.h"}
 
 
 def read_layers():
