@@ -7,6 +7,7 @@
 #include <QStyleFactory>
 #include <cmath>
 
+#include "platform/qt/palette_style.h"
 #include "platform/qt/skin.h"
 
 namespace ombrelia {
@@ -22,44 +23,44 @@ int pixels(double units, double scale) {
 }
 
 QPalette nightPalette() {
-    const QColor text("#eef3fa");
-    const QColor ground("#243044");
-    const QColor well("#141c29");
-    QPalette palette(ground);
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, well);
-    palette.setColor(QPalette::AlternateBase, QColor("#1c2635"));
-    palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::PlaceholderText, QColor("#b3c2d6"));
-    palette.setColor(QPalette::Button, QColor("#364863"));
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::ToolTipBase, ground);
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::Highlight, QColor("#f2a83a"));
-    palette.setColor(QPalette::HighlightedText, QColor("#0b111a"));
-    palette.setColor(QPalette::Link, QColor("#58aee0"));
+    const QColor text = toolkitColor(palette::kText);
+    const QColor ground = toolkitColor(palette::kChrome);
+    const QColor well = toolkitColor(palette::kWell);
+    QPalette colors(ground);
+    colors.setColor(QPalette::Window, ground);
+    colors.setColor(QPalette::WindowText, text);
+    colors.setColor(QPalette::Base, well);
+    colors.setColor(QPalette::AlternateBase, toolkitColor(palette::kChromeLo));
+    colors.setColor(QPalette::Text, text);
+    colors.setColor(QPalette::PlaceholderText, toolkitColor(palette::kTextDim));
+    colors.setColor(QPalette::Button, toolkitColor(palette::kFaceLo));
+    colors.setColor(QPalette::ButtonText, text);
+    colors.setColor(QPalette::ToolTipBase, ground);
+    colors.setColor(QPalette::ToolTipText, text);
+    colors.setColor(QPalette::Highlight, toolkitColor(palette::kAmber));
+    colors.setColor(QPalette::HighlightedText, toolkitColor(palette::kInk));
+    colors.setColor(QPalette::Link, toolkitColor(palette::kWater));
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, QColor("#7890b4"));
+        colors.setColor(QPalette::Disabled, role, toolkitColor(palette::kEdgeHi));
     }
-    return palette;
+    return colors;
 }
 
 // %1 letters, %2 margin, %3 button width, %4 button height, %5 edge, %6 text width; all in pixels.
-constexpr const char* kMessageBoxStyle = R"(
-QMessageBox { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #2b3a51, stop:1 #1c2635);
-              border: %5px solid #4c6285; }
-QLabel { color: #eef3fa; background: transparent; font-size: %1px; }
+constexpr StyleText kMessageBoxStyle = R"(
+QMessageBox { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 @panel, stop:1 @chrome_lo);
+              border: %5px solid @edge; }
+QLabel { color: @text; background: transparent; font-size: %1px; }
 QLabel#qt_msgbox_label { font-weight: bold; padding-top: %2px; }
 QLabel#qt_msgbox_informativelabel { padding-bottom: %2px; min-width: %6px; }
 * { dialogbuttonbox-buttons-have-icons: 0; }
-QPushButton { color: #eef3fa; font-size: %1px; font-weight: bold; min-width: %3px; min-height: %4px;
-              border: %5px solid #0b111a; border-radius: %2px;
-              background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #445775, stop:1 #364863); }
-QPushButton:hover, QPushButton:focus { border-color: #b4c9e6; }
-QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #566d90, stop:1 #4b6182); }
-QPushButton:pressed { background: #141c29; border-color: #f2a83a; })";
+QPushButton { color: @text; font-size: %1px; font-weight: bold; min-width: %3px; min-height: %4px;
+              border: %5px solid @ink; border-radius: %2px;
+              background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 @face_hi, stop:1 @face_lo); }
+QPushButton:hover, QPushButton:focus { border-color: @over_line; }
+QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 @over_hi, stop:1 @over_lo); }
+QPushButton:pressed { background: @well; border-color: @amber; })";
 
 }  // namespace
 
@@ -79,7 +80,7 @@ void dressApplication(double scale) {
 
 void dressMessageBox(QMessageBox& box, Skin& skin, double scale, bool hasStopIcon) {
     box.setWindowFlag(Qt::FramelessWindowHint);
-    box.setStyleSheet(QString(kMessageBoxStyle)
+    box.setStyleSheet(kMessageBoxStyle.sheet()
                           .arg(pixels(11, scale))
                           .arg(pixels(4, scale))
                           .arg(pixels(64, scale))

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/dispatch.h"
+#include "platform/qt/palette_style.h"
 #include "platform/qt/qt_desktop.h"
 
 namespace ombrelia {
@@ -20,23 +21,23 @@ constexpr double kLeastWidthUnits = 132;
 constexpr double kMenuTextUnits = 12;
 
 // %1: size of the text; %2: margin across, %3: margin above and below an entry; logical pixels.
-constexpr const char* kMenuDress =
-    "QMenuBar, QMenu { background: #1c2635; color: #eef3fa; font-size: %1px; }"
+constexpr StyleText kMenuDress =
+    "QMenuBar, QMenu { background: @chrome_lo; color: @text; font-size: %1px; }"
     "QMenuBar::item { background: transparent; padding: %3px %2px; border-radius: 3px; }"
-    "QMenuBar::item:selected { background: #364863; }"
-    "QMenu { border: 1px solid #4c6285; padding: %3px; }"
+    "QMenuBar::item:selected { background: @face_lo; }"
+    "QMenu { border: 1px solid @edge; padding: %3px; }"
     "QMenu::item { padding: %3px %2px; }"
-    "QMenu::item:selected { background: #364863; }"
-    "QMenu::item:disabled { color: #7890b4; }"
-    "QMenu::item:checked { color: #f2a83a; }"
-    "QMenu::separator { height: 1px; background: #4c6285; margin: %3px; }";
+    "QMenu::item:selected { background: @face_lo; }"
+    "QMenu::item:disabled { color: @edge_hi; }"
+    "QMenu::item:checked { color: @amber; }"
+    "QMenu::separator { height: 1px; background: @edge; margin: %3px; }";
 
-constexpr const char* kBarDress =
-    "QScrollBar:vertical { background: #141c29; border: 1px solid #4c6285; margin: 0; }"
-    "QScrollBar::handle:vertical { background: #4c6285; border: 1px solid #b3c2d6;"
+constexpr StyleText kBarDress =
+    "QScrollBar:vertical { background: @well; border: 1px solid @edge; margin: 0; }"
+    "QScrollBar::handle:vertical { background: @edge; border: 1px solid @text_dim;"
     " border-radius: 3px; min-height: 24px; }"
-    "QScrollBar::handle:vertical:hover { background: #7890b4; }"
-    "QScrollBar::handle:vertical:pressed { background: #f2a83a; }"
+    "QScrollBar::handle:vertical:hover { background: @edge_hi; }"
+    "QScrollBar::handle:vertical:pressed { background: @amber; }"
     "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
     "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }";
 
@@ -86,7 +87,7 @@ void FrameParts::makeMenus() {
 void FrameParts::makeBar(ScrollBar& record) {
     auto* bar = new QScrollBar(Qt::Vertical, &host_);
     bar->setFocusPolicy(Qt::NoFocus);  // keys are the window's
-    bar->setStyleSheet(QString::fromLatin1(kBarDress));
+    bar->setStyleSheet(kBarDress.sheet());
     bar->setAccessibleName(QString::fromStdString(record.AccessibleName));
     bar->setRange(record.Min, record.Max);
     bar->setPageStep(record.LargeChange);
@@ -120,7 +121,7 @@ int FrameParts::menuHeight() const {
 
 void FrameParts::place(const QSize& size, double logicalPerUnit) {
     if (menuBar_ != nullptr) {
-        menuBar_->setStyleSheet(QString::fromLatin1(kMenuDress)
+        menuBar_->setStyleSheet(kMenuDress.sheet()
                                     .arg(logical(kMenuTextUnits, logicalPerUnit))
                                     .arg(logical(10, logicalPerUnit))
                                     .arg(logical(3, logicalPerUnit)));

@@ -6,18 +6,19 @@
 #include <cmath>
 
 #include "platform/control.h"
+#include "platform/qt/palette_style.h"
 
 namespace ombrelia {
 
 namespace {
 
 // %1 letters, %2 edge, %3 and %4 padding of an entry, %5 width; all in logical pixels.
-constexpr const char* kMenuStyle = R"(
-QMenu { background: #141c29; color: #eef3fa; font-size: %1px; border: %2px solid #4c6285;
+constexpr StyleText kMenuStyle = R"(
+QMenu { background: @well; color: @text; font-size: %1px; border: %2px solid @edge;
         padding: %2px; }
 QMenu::item { min-width: %5px; padding: %3px %4px; background: transparent; }
-QMenu::item:selected { background: #4b6182; }
-QMenu::item:checked { color: #ffd787; }
+QMenu::item:selected { background: @over_lo; }
+QMenu::item:checked { color: @amber_hi; }
 QMenu::indicator { width: 0px; height: 0px; })";
 
 // A name as a menu shows it: on one line, no letter underlined.
@@ -47,7 +48,7 @@ void openListMenu(QWidget& parent, const ListBox& list, const QPoint& corner, in
     const int width =
         static_cast<int>(widthDevice / parent.devicePixelRatioF()) - 4 * edge - 2 * pixels(5);
     menu->setStyleSheet(
-        QString(kMenuStyle).arg(pixels(11)).arg(edge).arg(pixels(3)).arg(pixels(5)).arg(width));
+        kMenuStyle.sheet().arg(pixels(11)).arg(edge).arg(pixels(3)).arg(pixels(5)).arg(width));
     for (std::size_t i = 0; i < list.List.size(); ++i) {
         const int entry = static_cast<int>(i);
         QAction* action = menu->addAction(entryText(list.List[i]));

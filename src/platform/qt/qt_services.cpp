@@ -11,6 +11,7 @@
 
 #include "platform/binary_file.h"
 #include "platform/qt/dialog_dress.h"
+#include "platform/qt/palette_style.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_view.h"
 
@@ -72,10 +73,8 @@ std::string QtDialogs::remembered(const QString& path) {
 
 Color QtDialogs::askColor(const std::string& title, Color start) {
     dressApplication(desktop_.scale());
-    const QColor from(static_cast<int>(redOf(start)), static_cast<int>(greenOf(start)),
-                      static_cast<int>(blueOf(start)));
-    const QColor chosen =
-        QColorDialog::getColor(from, desktop_.dialogParent(), QString::fromStdString(title));
+    const QColor chosen = QColorDialog::getColor(toolkitColor(start), desktop_.dialogParent(),
+                                                 QString::fromStdString(title));
     if (!chosen.isValid()) {
         return start;
     }

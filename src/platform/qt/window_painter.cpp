@@ -5,15 +5,11 @@
 
 #include "platform/dispatch.h"
 #include "platform/qt/label_text.h"
+#include "platform/qt/palette_style.h"
 
 namespace ombrelia {
 
 namespace {
-
-QColor colorFor(Color color) {
-    return {static_cast<int>(redOf(color)), static_cast<int>(greenOf(color)),
-            static_cast<int>(blueOf(color))};
-}
 
 class Painting {
   public:
@@ -42,7 +38,7 @@ class Painting {
     void drawLine(const Line& line) {
         const QPointF from = lineEnd(line, line.X1, line.Y1);
         const QPointF to = lineEnd(line, line.X2, line.Y2);
-        QPen pen(colorFor(line.BorderColor));
+        QPen pen(toolkitColor(line.BorderColor));
         pen.setWidthF(std::max(1.0, std::round(line.BorderWidth * tools_.scale)));
         pen.setCapStyle(Qt::SquareCap);
         painter_.setPen(pen);
@@ -59,18 +55,18 @@ class Painting {
   private:
     void drawLabel(const Label& label, const QRect& place) {
         if (label.Opaque) {
-            painter_.fillRect(place, colorFor(label.BackColor));
+            painter_.fillRect(place, toolkitColor(label.BackColor));
         }
         if (label.Caption.empty()) {
             return;
         }
-        painter_.setPen(colorFor(label.ForeColor));
+        painter_.setPen(toolkitColor(label.ForeColor));
         drawLabelText(painter_, label, place, tools_.scale);
     }
 
     void drawPictureBox(const PictureBox& box, const QRect& place) {
         if (box.Opaque) {
-            painter_.fillRect(place, colorFor(box.BackColor));
+            painter_.fillRect(place, toolkitColor(box.BackColor));
         }
         drawFace(box, place);
         const Surface& canvas = box.Canvas;
@@ -86,11 +82,11 @@ class Painting {
 
     void drawTextLine(const Control& text, const QRect& place) {
         const double unit = tools_.scale;
-        painter_.fillRect(place, QColor(0x1c, 0x26, 0x35));
+        painter_.fillRect(place, toolkitColor(palette::kChromeLo));
         painter_.fillRect(place.x(), place.y(), place.width(), static_cast<int>(std::lround(unit)),
-                          QColor(0x4c, 0x62, 0x85));
+                          toolkitColor(palette::kEdge));
         painter_.setFont(fontFor(11 * unit, false, false));
-        painter_.setPen(QColor(0xee, 0xf3, 0xfa));
+        painter_.setPen(toolkitColor(palette::kText));
         const int margin = static_cast<int>(std::lround(6 * unit));
         painter_.drawText(place.adjusted(margin, 0, -margin, 0), Qt::AlignVCenter | Qt::AlignLeft,
                           QString::fromStdString(text.Caption));
@@ -98,11 +94,11 @@ class Painting {
 
     void drawList(const ListBox& list, const QRect& place) {
         const double unit = tools_.scale;
-        painter_.setPen(QPen(QColor(0x4c, 0x62, 0x85), std::max(1.0, std::round(unit))));
-        painter_.setBrush(QColor(0x14, 0x1c, 0x29));
+        painter_.setPen(QPen(toolkitColor(palette::kEdge), std::max(1.0, std::round(unit))));
+        painter_.setBrush(toolkitColor(palette::kWell));
         painter_.drawRect(place.adjusted(0, 0, -1, -1));
         painter_.setFont(fontFor(11 * unit, false, false));
-        painter_.setPen(QColor(0xee, 0xf3, 0xfa));
+        painter_.setPen(toolkitColor(palette::kText));
         const int margin = static_cast<int>(std::lround(6 * unit));
         painter_.drawText(place.adjusted(margin, 0, -3 * margin, 0),
                           Qt::AlignVCenter | Qt::AlignLeft, QString::fromStdString(list.Caption));
@@ -117,7 +113,7 @@ class Painting {
                                middle + QPointF(0, 3 * unit)});
         painter_.setRenderHint(QPainter::Antialiasing);
         painter_.setPen(Qt::NoPen);
-        painter_.setBrush(QColor(0xb3, 0xc2, 0xd6));
+        painter_.setBrush(toolkitColor(palette::kTextDim));
         painter_.drawPolygon(arrow);
         painter_.setRenderHint(QPainter::Antialiasing, false);
     }

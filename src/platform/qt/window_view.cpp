@@ -14,6 +14,7 @@
 #include "platform/qt/accessibility.h"
 #include "platform/qt/key_mapping.h"
 #include "platform/qt/list_menu.h"
+#include "platform/qt/palette_style.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_painter.h"
 
@@ -128,7 +129,8 @@ void WindowView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     if (frame_ != nullptr) {
-        painter.fillRect(event->rect(), QColor(0x1c, 0x26, 0x35));  // units that are not whole
+        painter.fillRect(event->rect(),
+                         toolkitColor(palette::kChromeLo));  // units that are not whole
     }
     painter.translate(0, menuHeight());
     painter.scale(1 / ratio, 1 / ratio);
