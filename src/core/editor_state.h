@@ -68,6 +68,9 @@ inline std::int16_t HelpMouseState = 0;       // kGestureScrollUp or Down while 
 inline std::int16_t HelpSliderDragState = 0;  // 2 while its thumb is held
 inline std::int16_t HelpThumbGrab = 0;        // units, pointer in a drag of its thumb
 
+// Of the marker that shows on the map where a tool is at work.
+inline constexpr Color kMarkerColor = rgb(255, 0, 0);
+
 // Colours of the title text.
 inline Color TitleActiveColor = 0;    // Form1's load
 inline Color TitleInactiveColor = 0;  // Form1's load

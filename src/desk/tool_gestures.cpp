@@ -24,7 +24,6 @@ namespace {
 constexpr int kLastOfStroke = 599;
 constexpr int kStartsOfLine = 5;  // times that the line's start is stored
 constexpr int kMarkerWidth = 4;
-constexpr Color kMarkerColor = rgb(255, 0, 0);
 constexpr Color kCanyonDot = rgb(255, 255, 255);
 
 // Cells back to the scale of MapView.

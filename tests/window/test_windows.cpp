@@ -8,6 +8,7 @@
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/windows/help_box.h"
+#include "platform/palette.h"
 #include "stories.h"
 
 namespace ombrelia {
@@ -77,7 +78,7 @@ TEST(Windows, the_title_moves_the_window_and_the_hint_follows) {
 TEST(Windows, the_editor_is_active_with_its_title_in_the_active_colour) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openEditor(driver, button::kSizeMedium));
-        EXPECT_TRUE(driver.waitFor([] { return Form1.Label11.ForeColor == rgb(255, 255, 255); }));
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Label11.ForeColor == palette::kText; }));
         driver.inProgram(
             [] { EXPECT_EQ(Form1.Label11.Caption, "Ombrelia Terrain Editor - Medium Map"); });
     });

@@ -1,5 +1,6 @@
 // Form1's layout: title bar, map, top strip, tools.
 #include "core/button_table.h"
+#include "core/editor_state.h"
 #include "core/windows/form1_layout.h"
 #include "core/windows/layout.h"
 
@@ -15,14 +16,14 @@ void placeButtons(Form1Window& form, PictureBox Form1Window::*frame) {
     }
 }
 
-constexpr TextStyle kCaption = {.size = 10, .color = skin::kTextQuiet, .align = TextAlign::Center};
+constexpr TextStyle kCaption = {.size = 10, .color = palette::kTextDim, .align = TextAlign::Center};
 constexpr double kCaptionHeight = 14;
 
 void designTitle(Form1Window& form) {
     designLabel(form.Label11, "Label11", form, {26, 0, 600, 22}, "",
-                {.size = 12, .color = skin::kTitle, .bold = true});
+                {.size = 12, .color = palette::kText, .bold = true});
     designLabel(form.Label32, "Label32", form, {630, 0, 90, 22}, "quillbyte",
-                {.size = 11, .color = skin::kTextQuiet, .align = TextAlign::Right});
+                {.size = 11, .color = palette::kTextDim, .align = TextAlign::Right});
     for (const ButtonRow& row : button::kRows) {
         if (row.place.frame == nullptr && row.place.page == page::kNone) {
             designButton(form, row, form);
@@ -36,7 +37,7 @@ void designMap(Form1Window& form) {
     form.MapBack.Opaque = true;
     designSurface(form.MapView, "MapView", form.MapBack, {0, 0, 257, 257});
     form.MapView.AccessibleName = "Map";
-    designLine(form.Line1, "Line1", form.MapView, 0, 0, 0, 0, skin::kShowOnMap);
+    designLine(form.Line1, "Line1", form.MapView, 0, 0, 0, 0, kMarkerColor);
     form.Line1.Visible = false;
 }
 
@@ -46,9 +47,9 @@ void designTopStrip(Form1Window& form) {
     form.ZoomView.Canvas.ShowsGround = true;
     form.ZoomView.Canvas.clear();
     designLabel(form.Label4, "Label4", form, {69, 33, 62, 14}, "Zoom",
-                {.size = 10, .color = skin::kTextQuiet});
+                {.size = 10, .color = palette::kTextDim});
     designLabel(form.Label22, "Label22", form, {69, 48, 62, 22}, "",
-                {.size = 15, .color = skin::kText, .bold = true});
+                {.size = 15, .color = palette::kText, .bold = true});
 
     designPart(form.ViewFrame, "ViewFrame", form, {138, 26, 90, 57});
     placeButtons(form, &Form1Window::ViewFrame);
@@ -74,16 +75,16 @@ void designTopStrip(Form1Window& form) {
 void designTools(Form1Window& form) {
     designSurface(form.Picker, "Picker", form, {275, 86, 28, 260}, 2);
     form.Picker.AccessibleName = "Color picker";
-    designLine(form.PickerChoice, "PickerChoice", form, 303, 303, 315, 303, skin::kAccent);
+    designLine(form.PickerChoice, "PickerChoice", form, 303, 303, 315, 303, palette::kAmber);
     form.PickerChoice.BorderWidth = 2;
 
     designPart(form.ToolFrame, "ToolFrame", form, {321, 86, 130, 261});
     placeButtons(form, &Form1Window::ToolFrame);
     designLabel(form.Label1, "Label1", form.ToolFrame, {50, 198, 78, 13}, "Draw height",
-                {.size = 10, .color = skin::kTextQuiet});
+                {.size = 10, .color = palette::kTextDim});
     designPart(form.Picture3, "Picture3", form.ToolFrame, {50, 212, 78, 24});
     form.Picture3.Opaque = true;
-    form.Picture3.BackColor = skin::kWell;
+    form.Picture3.BackColor = palette::kWell;
     designPart(form.PickedColor, "PickedColor", form.Picture3, {2, 2, 74, 20});
     form.PickedColor.Opaque = true;
     designLabel(form.Label19, "Label19", form.ToolFrame, {50, 238, 78, 16}, "",

@@ -82,7 +82,7 @@ void designSliders(Form1Window& form) {
         readout.Index = Control::kNoIndex;
         readout.AccessibleName = row.caption;
         designLabel(readout, row.readoutName, frame, {kReadoutLeft, row.top + 1, 48, 15}, "",
-                    {.color = skin::kAccent, .align = TextAlign::Right});
+                    {.color = palette::kAmber, .align = TextAlign::Right});
     }
 }
 
@@ -98,7 +98,7 @@ void designTexts(Form1Window& form) {
     int index = 0;
     for (const FrameTextPlace& row : kTexts) {
         designLabel(form.FrameText.make(index++), "FrameText", form.OptFrame(row.page), row.box,
-                    row.text, {.color = skin::kTextQuiet, .align = row.align, .wrap = true});
+                    row.text, {.color = palette::kTextDim, .align = row.align, .wrap = true});
     }
 }
 
@@ -116,7 +116,7 @@ void designColorPage(Form1Window& form) {
         const double left = 12 + 43.0 * row;
         designLabel(form.FrameText.make(10 + row), "FrameText", frame, {left, 58, 39, 12},
                     kRowLabels[row],
-                    {.size = 9, .color = skin::kTextQuiet, .align = TextAlign::Center});
+                    {.size = 9, .color = palette::kTextDim, .align = TextAlign::Center});
         for (int end = 0; end < 2; ++end) {
             PictureBox& swatch = form.Rng1.make(2 * row + end);
             designPart(swatch, "Rng1", frame, {left + 20 * end, 70, 19, 11});
@@ -153,7 +153,7 @@ void designProgress(Form1Window& form) {
     designImage(form.PBarBack, "PBarBack", form.PBarFrame, 0, 0, Picture::ProgressBack);
     designPart(form.PBar, "PBar", form.PBarFrame, {1, 2, 0, height - 4}, {Picture::ProgressBar, 0});
     designLabel(form.PercDone, "PercDone", form.ProgressFrame, {14, 138, 252, 16}, "0 Percent Done",
-                {.color = skin::kTextQuiet, .align = TextAlign::Center});
+                {.color = palette::kTextDim, .align = TextAlign::Center});
 }
 
 }  // namespace

@@ -33,10 +33,10 @@ void designForm2() {
     designFood();
     designLabel(Form2.Label1, "Label1", Form2.Picture1, {30, 511, 480, 18},
                 "More Levels in Ver 2.0!",
-                {.size = 12, .color = skin::kAccent, .align = TextAlign::Center, .bold = true});
+                {.size = 12, .color = palette::kAmber, .align = TextAlign::Center, .bold = true});
     Form2.Label1.Visible = false;
     designLabel(Form2.Label28, "Label28", Form2.Picture1, {8, 511, 20, 18}, "1",
-                {.color = skin::kTextQuiet});
+                {.color = palette::kTextDim});
     designTimer(Form2.Timer1, "Timer1", Form2, kTickMilliseconds);
 }
 

@@ -37,8 +37,8 @@ constexpr double kIconSide = 36;
 constexpr double kIconTextTop = 64;
 
 constexpr TextStyle kBodyStyle = {.size = kTextSize, .wrap = true};
-constexpr TextStyle kTitleStyle = {.size = 16, .color = skin::kTitle, .bold = true};
-constexpr TextStyle kLinkStyle = {.size = kTextSize, .color = skin::kAccent, .wrap = true};
+constexpr TextStyle kTitleStyle = {.size = 16, .color = palette::kText, .bold = true};
+constexpr TextStyle kLinkStyle = {.size = kTextSize, .color = palette::kAmber, .wrap = true};
 
 constexpr const char* kButtonTexts[] = {"Contents", "Starting Out", "Simple", "Icons",
                                         "Advanced", "Advanced TE",  "About",  "Back"};
@@ -73,7 +73,7 @@ void designHeading(Label& label, const char* name, PictureBox& page, const char*
     designLabel(label, name, page, {kMargin, kTitleTop, kTextWidth, 22}, title, kTitleStyle);
     Line& rule = HelpBox.TopicRule.make(page.Index);
     designLine(rule, "TopicRule", page, kMargin, 37, kViewport.width - kMargin - 1, 37,
-               skin::kEdge);
+               palette::kEdge);
 }
 
 // A text that wraps; the place below it.
@@ -81,7 +81,7 @@ double designText(Label& label, const char* name, PictureBox& page, double top,
                   const std::string& text, const TextStyle& style) {
     const double height = wrappedHeight(text, style.size, kTextWidth);
     designLabel(label, name, page, {kMargin, top, kTextWidth, height}, text, style);
-    label.Underline = style.color == skin::kAccent;
+    label.Underline = style.color == palette::kAmber;
     return top + height;
 }
 
@@ -117,7 +117,7 @@ double designToolList(PictureBox& page, double top) {
         Label& name = HelpBox.ToolName.make(i);
         designLabel(name, "ToolName", page,
                     {kMargin + kToolSide + 12, rowTop, kTextWidth - kToolSide - 12, kToolSide},
-                    kToolPages[i].title, {.size = kTextSize, .color = skin::kAccent});
+                    kToolPages[i].title, {.size = kTextSize, .color = palette::kAmber});
         name.Underline = true;
         HelpBox.ToolPic(i).AccessibleName = kToolPages[i].title;
     }
@@ -176,10 +176,10 @@ void designBar() {
 void designHelpBox() {
     designWindow(HelpBox, "HelpBox", "Help", kWidth, kHeight, Picture::HelpBoxBack);
     designLabel(HelpBox.Label14, "Label14", HelpBox, {26, 0, kWidth - 60, 22}, "Help",
-                {.size = 12, .color = skin::kTitle, .bold = true});
+                {.size = 12, .color = palette::kText, .bold = true});
     designButtons();
     designLabel(HelpBox.Label13, "Label13", HelpBox, {10, 327, 110, 18}, "quillbyte",
-                {.color = skin::kTextQuiet, .align = TextAlign::Center});
+                {.color = palette::kTextDim, .align = TextAlign::Center});
     HelpBox.Label13.Underline = true;
     designPart(HelpBox.Picture1, "Picture1", HelpBox, kViewport);
     for (const HelpPage& row : kHelpPages) {

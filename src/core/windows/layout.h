@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "core/windows/skin_colors.h"
 #include "platform/control.h"
+#include "platform/palette.h"
 
 namespace ombrelia {
 
@@ -17,7 +17,7 @@ struct Box {
 // How a label is written.
 struct TextStyle {
     double size = 11;
-    Color color = skin::kText;
+    Color color = palette::kText;
     TextAlign align = TextAlign::Left;
     bool bold = false;
     bool wrap = false;

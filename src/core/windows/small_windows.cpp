@@ -45,7 +45,7 @@ void designSizeButtons() {
         SizeSelect.LTool(row.number).LiesOn = &face;
         designLabel(SizeSelect.SizeLabel.make(row.number), "SizeLabel", SizeSelect.Picture1,
                     {row.left, row.top + 34, face.Width, 13}, row.points,
-                    {.size = 10, .color = skin::kTextQuiet, .align = TextAlign::Center});
+                    {.size = 10, .color = palette::kTextDim, .align = TextAlign::Center});
     }
 }
 
@@ -53,7 +53,7 @@ void designSizeSelect() {
     designWindow(SizeSelect, "SizeSelect", "Ombrelia Terrain Editor", 340, 262,
                  Picture::SizeSelectBack);
     designLabel(SizeSelect.Label11, "Label11", SizeSelect, {26, 0, 280, 22}, "New Map",
-                {.size = 12, .color = skin::kTitle, .bold = true});
+                {.size = 12, .color = palette::kText, .bold = true});
     Image& close = SizeSelect.NTool.make(button::kSizeClose);
     designImage(close, "NTool", SizeSelect, 317, 2, Picture::CloseB);
     close.AccessibleName = "Close";
@@ -64,7 +64,7 @@ void designSizeSelect() {
                 {.align = TextAlign::Center});
     designSizeButtons();
     for (int i = 0; i < 4; ++i) {
-        designLine(SizeSelect.Edge.make(i), "Edge", SizeSelect, 0, 0, 0, 0, skin::kEdge);
+        designLine(SizeSelect.Edge.make(i), "Edge", SizeSelect, 0, 0, 0, 0, palette::kEdge);
     }
 }
 
