@@ -65,26 +65,6 @@ std::span<const std::uint8_t> bytesOf(const std::string& text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-// Takes away what this save has made, unless it was finished.
-class CreationGuard {
-  public:
-    CreationGuard(const std::string& path, bool wasNew) : path_(path), wasNew_(wasNew) {}
-    ~CreationGuard() {
-        if (!isKept_) {
-            undoCreation(path_, wasNew_);
-        }
-    }
-    CreationGuard(const CreationGuard&) = delete;
-    CreationGuard& operator=(const CreationGuard&) = delete;
-
-    void keep() { isKept_ = true; }
-
-  private:
-    const std::string& path_;
-    bool wasNew_;
-    bool isKept_ = false;
-};
-
 }  // namespace
 
 void BuildBitmapHeader(std::string& header, std::int16_t mapSize) {
@@ -124,22 +104,11 @@ std::string bitmapOf(std::int16_t mapSize) {
 
 void WriteTerrainBitmap(const std::string& fileName, std::int16_t mapSize, std::int16_t& result) {
     const std::string bytes = bitmapOf(mapSize);
-    if (!isNameTaken(fileName) && makeWholeFile(fileName, bytesOf(bytes))) {
-        return;
-    }
-    BinaryFile probe(fileName);
-    if (probe.length() != 0) {
+    if (!saveWholeFile(fileName, bytesOf(bytes))) {
         // Required: what holds something is never replaced, and no word is said
         // (a_second_save_changes_nothing).
         result = 1;
-        return;
     }
-    CreationGuard guard(fileName, probe.isNew());
-    probe.close();
-    BinaryFile file(fileName);
-    file.write(bytesOf(bytes));
-    file.close();
-    guard.keep();
 }
 
 void SaveCommand() {

@@ -32,6 +32,26 @@ void removeFile(const std::string& path) {
     }
 }
 
+// Takes away what a save has made, unless it was finished.
+class CreationGuard {
+  public:
+    CreationGuard(const std::string& path, bool wasNew) : path_(path), wasNew_(wasNew) {}
+    ~CreationGuard() {
+        if (!isKept_) {
+            undoCreation(path_, wasNew_);
+        }
+    }
+    CreationGuard(const CreationGuard&) = delete;
+    CreationGuard& operator=(const CreationGuard&) = delete;
+
+    void keep() { isKept_ = true; }
+
+  private:
+    const std::string& path_;
+    bool wasNew_;
+    bool isKept_ = false;
+};
+
 }  // namespace
 
 BinaryFile::BinaryFile(std::string path) : path_(std::move(path)) {
@@ -115,6 +135,23 @@ bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes)
         throw;
     }
     return isNamed;
+}
+
+bool saveWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+    if (!isNameTaken(path) && makeWholeFile(path, bytes)) {
+        return true;
+    }
+    BinaryFile probe(path);
+    if (probe.length() != 0) {
+        return false;
+    }
+    CreationGuard guard(path, probe.isNew());
+    probe.close();
+    BinaryFile file(path);
+    file.write(bytes);
+    file.close();
+    guard.keep();
+    return true;
 }
 
 bool isOrdinaryFile(const std::string& path) {

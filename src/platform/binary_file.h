@@ -45,6 +45,10 @@ class BinaryFile {
 // happened then. Throws FileFailure.
 [[nodiscard]] bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
+// Saves the bytes under a name that nothing has, or an empty file: the file has all of them then,
+// or is as it was. False if it holds something already, which is left alone. Throws FileFailure.
+[[nodiscard]] bool saveWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
+
 // Whether there is an ordinary file, or a link to one, of this name.
 bool isOrdinaryFile(const std::string& path);
 
