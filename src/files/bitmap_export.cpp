@@ -4,7 +4,6 @@
 
 #include "core/objects.h"
 #include "platform/binary_file.h"
-#include "platform/services.h"
 
 namespace ombrelia {
 
@@ -109,16 +108,6 @@ void WriteTerrainBitmap(const std::string& fileName, std::int16_t mapSize, std::
         // (a_second_save_changes_nothing).
         result = 1;
     }
-}
-
-void SaveCommand() {
-    const std::string name = services().dialogs->askSaveFile(
-        "Save Terrain", "Terrain Files (*.bmp)|*.bmp|All Files (*.*)|*.*");
-    if (name.empty()) {
-        return;
-    }
-    std::int16_t result = 0;
-    WriteTerrainBitmap(name, MapSize, result);
 }
 
 }  // namespace ombrelia

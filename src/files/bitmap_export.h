@@ -6,9 +6,6 @@
 
 namespace ombrelia {
 
-// The command "Save": asks for a name and writes the map; nothing on Cancel.
-void SaveCommand();
-
 // Writes points 0..mapSize - 1 of HeightMap. A file that is not empty is left alone and result set
 // to 1; result is otherwise untouched. Throws FileFailure, with nothing half-written left behind.
 void WriteTerrainBitmap(const std::string& fileName, std::int16_t mapSize, std::int16_t& result);

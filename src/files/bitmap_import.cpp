@@ -9,6 +9,7 @@
 #include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
+#include "files/formats_table.h"
 #include "platform/numeric.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
@@ -178,8 +179,8 @@ std::int16_t heightOfColor(std::int32_t color) {
 bool importPicture() {
     unloadWindow(SizeSelect);
     unloadWindow(Form3);
-    const std::string name = services().dialogs->askOpenFile(
-        "Select Image to Import", "Image Files (*.bmp)|*.bmp|All Files (*.*)|*.*");
+    const std::string name =
+        services().dialogs->askOpenFile("Select Image to Import", dialogFilter(kOpenedFormats));
     if (name.empty() || !services().files->isNameTaken(name)) {
         return false;
     }

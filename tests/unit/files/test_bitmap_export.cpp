@@ -10,6 +10,7 @@
 #include "core/objects.h"
 #include "editor_fixture.h"
 #include "files/bitmap_export.h"
+#include "files/save_command.h"
 #include "platform/dispatch.h"
 #include "platform/failure.h"
 #include "temp_folder.h"
@@ -252,14 +253,6 @@ TEST_F(BitmapExport, an_existing_empty_file_is_filled) {
     WriteTerrainBitmap(folder / "a.bmp", 65, result);
     EXPECT_EQ(result, 5);
     EXPECT_TRUE(contentOf(folder / "a.bmp") == typedFile(sizeCases().front()));
-}
-
-TEST_F(BitmapExport, the_dialog_has_its_title_and_filter_and_cancel_writes_nothing) {
-    save("");
-    EXPECT_EQ(platform.Calls, (std::vector<std::string>{"save Save Terrain | Terrain Files "
-                                                        "(*.bmp)|*.bmp|All Files (*.*)|*.*"}));
-    EXPECT_TRUE(folder.names().empty());
-    EXPECT_TRUE(platform.Failures.empty());
 }
 
 TEST_F(BitmapExport, names_of_every_kind_are_used_as_they_stand) {
