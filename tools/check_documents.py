@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The documents stay true: every back-ticked path, every picture and every test that a `Required:`
-comment names exists; the ladder in docs/architecture.md is the one that is checked."""
+comment names exists; the ladder in docs/architecture.md is the one that is checked; the kinds of
+pictures in docs/guide.md are those that are read, and the desktop entry claims none."""
 import pathlib
 import re
 import subprocess
@@ -51,11 +52,21 @@ def check_ladder(problems):
             problems.append(f"docs/architecture.md does not show: {line}")
 
 
+def check_kinds(problems):
+    table = (ROOT / "src/platform/picture_kinds_table.h").read_text()
+    kinds = ", ".join(re.findall(r'\{"(\w+)", "[a-z ]*"\}', table))
+    if not kinds or f"\n{kinds}.\n" not in (ROOT / "docs/guide.md").read_text():
+        problems.append(f"docs/guide.md does not list the pictures that are read: {kinds}.")
+    if "MimeType" in (ROOT / "packaging/ombrelia-terrain-editor.desktop").read_text():
+        problems.append("the desktop entry promises to open files, which the editor does not do")
+
+
 def main():
     problems, files = [], tracked()
     check_paths(files, problems)
     check_required(files, problems)
     check_ladder(problems)
+    check_kinds(problems)
     print("\n".join(problems) if problems else "the documents are true")
     return 1 if problems else 0
 

@@ -71,13 +71,8 @@ std::vector<NamedFile> bitmapCorpus() {
 std::vector<NamedFile> pictureCorpus() {
     std::vector<NamedFile> files;
     const QImage image = colorful(16, 16);
-    for (const char* kind :
-         {"png", "jpeg", "gif", "pgm", "ppm", "xpm", "ico", "tiff", "webp", "tga", "icns"}) {
-        files.emplace_back(std::string("color.") + kind, fileOf(image, kind));
-    }
-    for (const char* kind : {"pbm", "xbm", "wbmp"}) {
-        files.emplace_back(std::string("mono.") + kind,
-                           fileOf(image.convertToFormat(QImage::Format_Mono), kind));
+    for (const std::string& kind : toolkitKinds()) {
+        files.emplace_back("picture." + kind, fileOf(fittedTo(kind, image), kind));
     }
     for (const auto format :
          {QImage::Format_Grayscale8, QImage::Format_Grayscale16, QImage::Format_Indexed8,

@@ -6,6 +6,7 @@
 
 #include "platform/bitmap_bytes.h"
 #include "platform/failure.h"
+#include "platform/picture_kinds_table.h"
 #include "platform/qt/picture_loader.h"
 #include "temp_folder.h"
 
@@ -76,16 +77,32 @@ QImage colorful(int width, int height) {
     return image;
 }
 
-std::string fileOf(const QImage& image, const char* kind) {
-    if (qstrcmp(kind, "gif") == 0) {
+std::vector<std::string> toolkitKinds() {
+    std::vector<std::string> kinds;
+    for (const PictureKind& kind : kPictureKinds) {
+        const std::string names = kind.toolkitNames;
+        if (!names.empty()) {
+            kinds.push_back(names.substr(0, names.find(' ')));
+        }
+    }
+    return kinds;
+}
+
+QImage fittedTo(const std::string& kind, const QImage& image) {
+    const bool isMono = kind == "pbm" || kind == "wbmp";
+    return isMono ? image.convertToFormat(QImage::Format_Mono) : image;
+}
+
+std::string fileOf(const QImage& image, const std::string& kind) {
+    if (kind == "gif") {
         return gifFile(image);
     }
-    if (qstrcmp(kind, "tga") == 0) {
+    if (kind == "tga") {
         return tgaFile(image);
     }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, kind);
+    QImageWriter writer(&buffer, QByteArray::fromStdString(kind));
     EXPECT_TRUE(writer.write(image)) << kind << ": " << writer.errorString().toStdString();
     return buffer.data().toStdString();
 }

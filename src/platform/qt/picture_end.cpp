@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QIODevice>
-#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -109,11 +108,6 @@ bool isGifComplete(QIODevice& device) {
     return false;
 }
 
-// The list of its bytes is closed.
-bool isXbmComplete(QIODevice& device) {
-    return find(device, QByteArrayView("}", 1));
-}
-
 // Pixels that are not run-length coded have a length that is known beforehand.
 bool isTgaComplete(QIODevice& device) {
     constexpr unsigned kCoded = 8;
@@ -129,47 +123,14 @@ bool isTgaComplete(QIODevice& device) {
     return (header[2] & kCoded) != 0 || skip(device, header[0] + palette + pixels);
 }
 
-// The second half of a block's header.
-qint64 lengthOf(const std::array<std::uint8_t, 8>& header) {
-    return qFromBigEndian<quint32>(&header[4]);
-}
-
-// Each block's length lies within the file, in the table of contents as well: the toolkit asks for
-// as much memory as either says.
-bool isIcnsComplete(QIODevice& device) {
-    constexpr QByteArrayView kContents("TOC ");
-    constexpr qint64 kHeader = 8;  // name and length, header included, of the file and of a block
-    std::array<std::uint8_t, kHeader> block{};
-    if (!take(device, block)) {
-        return false;
-    }
-    while (take(device, block)) {
-        const qint64 length = lengthOf(block);
-        const qint64 end = device.pos() - kHeader + length;
-        if (end > device.size()) {
-            return false;
-        }
-        if (QByteArrayView(block).first(4) == kContents) {
-            while (device.pos() + kHeader <= end && take(device, block)) {
-                if (lengthOf(block) > device.size()) {
-                    return false;
-                }
-            }
-        }
-        if (end < device.pos() || !device.seek(end)) {
-            return true;  // for the reader to refuse
-        }
-    }
-    return true;
-}
-
 struct EndRow {
     const char* format;
     bool (*isComplete)(QIODevice& device);
 };
-constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete}, {"jpg", isJpegComplete},
-                            {"gif", isGifComplete},   {"icns", isIcnsComplete},
-                            {"tga", isTgaComplete},   {"xbm", isXbmComplete}};
+constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete},
+                            {"jpg", isJpegComplete},
+                            {"gif", isGifComplete},
+                            {"tga", isTgaComplete}};
 
 }  // namespace
 

@@ -1,5 +1,5 @@
-// Whether a picture is complete. The toolkit fills up a picture of these kinds that is cut off, and
-// calls it a success, or asks for as much memory as the file claims.
+// Whether a picture is complete. The toolkit fills up a picture of some kinds that is cut off, and
+// calls it a success.
 #pragma once
 
 class QByteArray;

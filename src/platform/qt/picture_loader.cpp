@@ -10,6 +10,7 @@
 #include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/messages.h"
+#include "platform/picture_kinds_table.h"
 #include "platform/qt/picture_end.h"
 #include "platform/surface.h"
 
@@ -17,17 +18,14 @@ namespace ombrelia {
 
 namespace {
 
-// The same on every machine, whatever plug-ins it has. No vectors, no films.
-constexpr const char* kFormats[] = {"png",  "jpeg", "jpg", "gif",  "pbm", "pgm",
-                                    "ppm",  "xbm",  "xpm", "ico",  "cur", "tif",
-                                    "tiff", "webp", "tga", "icns", "wbmp"};
-
 constexpr int kStripRows = 64;  // rows that are converted at once
 constexpr int kMostMegabytes = kLargestPictureBytes >> 20U;
 
 bool isAllowed(const QByteArray& format) {
-    return std::any_of(std::begin(kFormats), std::end(kFormats),
-                       [&format](const char* name) { return format == name; });
+    return !format.isEmpty() &&
+           std::any_of(std::begin(kPictureKinds), std::end(kPictureKinds), [&](const auto& kind) {
+               return QByteArray(kind.toolkitNames).split(' ').contains(format);
+           });
 }
 
 // The toolkit's name of the kind, by content. It takes a TGA of true colours for cursors, but where
