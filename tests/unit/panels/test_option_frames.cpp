@@ -2,6 +2,7 @@
 
 #include "core/editor_state.h"
 #include "core/objects.h"
+#include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "desk/run_command.h"
 #include "editor_fixture.h"
