@@ -228,25 +228,40 @@ bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {
     if (!waitForDialog(title)) {
         return false;
     }
-    QWidget* dialog = nullptr;
-    inProgram([&] { dialog = QApplication::activeModalWidget(); });
-    type(path);
-    const bool isTyped = waitFor([&path] {
-        const auto* line = dynamic_cast<QLineEdit*>(QApplication::focusWidget());
-        return line != nullptr && line->text().toStdString() == path;
-    });
-    // The first one may close the list of names that begin so.
-    constexpr int kReturns = 3;
+    constexpr int kTries = 3;
     constexpr int kLooks = 150;
-    for (int i = 0; isTyped && i < kReturns; ++i) {
-        key("Return");
-        for (int look = 0; look < kLooks; ++look) {
-            bool isGone = false;
-            inProgram([&] { isGone = QApplication::activeModalWidget() != dialog; });
-            if (isGone) {
-                return true;
-            }
+    QWidget* dialog = nullptr;
+    const QLineEdit* line = nullptr;
+    QPoint place;
+    inProgram([&] {
+        dialog = QApplication::activeModalWidget();
+        line = dialog->findChild<QLineEdit*>();
+        place = line->mapToGlobal(line->rect().center());
+    });
+    const auto happens = [this](const std::function<bool()>& holds) {
+        bool holdsNow = false;
+        for (int look = 0; look < kLooks && !holdsNow; ++look) {
             rest(20);
+            inProgram([&] { holdsNow = holds(); });
+        }
+        return holdsNow;
+    };
+    type(path);
+    // On a busy machine letters may come before the line has the keyboard.
+    const auto isTyped = [&] { return line->text().toStdString() == path; };
+    for (int i = 1; !happens(isTyped); ++i) {
+        if (i == kTries) {
+            return false;
+        }
+        clickAt(place);
+        key("ctrl+a");
+        type(path);
+    }
+    // The first one may close the list of names that begin so.
+    for (int i = 0; i < kTries; ++i) {
+        key("Return");
+        if (happens([&] { return QApplication::activeModalWidget() != dialog; })) {
+            return true;
         }
     }
     return false;
