@@ -49,25 +49,25 @@ namespace button {
 inline constexpr std::int16_t kYes = -1;
 inline constexpr bool kLocked = true;
 
-constexpr ButtonStart push(std::int16_t kind) {
+consteval ButtonStart push(std::int16_t kind) {
     return {kind, 0, 0, 0, kUp};
 }
-constexpr ButtonStart check(std::int16_t state) {
+consteval ButtonStart check(std::int16_t state) {
     return {kind::kOption, kYes, 0, 0, state};
 }
 // One of a group of which one is on.
-constexpr ButtonStart oneOf(std::int16_t group, std::int16_t state,
+consteval ButtonStart oneOf(std::int16_t group, std::int16_t state,
                             std::int16_t kind = kind::kPicture) {
     return {kind, kYes, kYes, group, state};
 }
 
-constexpr ButtonPlace in(PictureBox Form1Window::*frame, double left, double top) {
+consteval ButtonPlace in(PictureBox Form1Window::*frame, double left, double top) {
     return {frame, page::kNone, left, top, 0};
 }
-constexpr ButtonPlace inWindow(double left, double top) {
+consteval ButtonPlace inWindow(double left, double top) {
     return {nullptr, page::kNone, left, top, 0};
 }
-constexpr ButtonPlace onPage(int page, double left, double top, double textWidth = 0) {
+consteval ButtonPlace onPage(int page, double left, double top, double textWidth = 0) {
     return {nullptr, page, left, top, textWidth};
 }
 
