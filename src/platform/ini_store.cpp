@@ -1,14 +1,13 @@
 #include "platform/ini_store.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <pwd.h>
-#include <sstream>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -24,6 +23,8 @@ namespace {
 // How long another editor is waited for, and how often it is looked for meanwhile.
 constexpr int kPatienceMilliseconds = 2000;
 constexpr int kTryMilliseconds = 5;
+
+constexpr std::size_t kMostBytes = 16U << 20U;
 
 constexpr const char* kHexDigits = "0123456789ABCDEF";
 
@@ -110,9 +111,12 @@ bool takeLock(int handle, int milliseconds) {
     return true;
 }
 
-// Writes a new file whole and flushed; the error number, 0 when all went well.
+// Writes a new file whole and flushed, in the place of whatever had its name but a folder; the
+// error number, 0 when all went well.
 int writeWhole(const std::string& path, const std::string& bytes, mode_t mode) {
-    const FileHandle file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode));
+    ::unlink(path.c_str());
+    constexpr int kNew = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    const FileHandle file(::open(path.c_str(), kNew, mode));
     if (file.get() < 0) {
         return errno;
     }
@@ -127,13 +131,41 @@ int writeWhole(const std::string& path, const std::string& bytes, mode_t mode) {
     return ::fsync(file.get()) == 0 ? 0 : errno;
 }
 
-std::string readWhole(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    if (file) {
-        text << file.rdbuf();
+bool isLink(const std::string& path) {
+    struct stat status {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+// Reads an ordinary file whole; nothing where there is none. The reason why it cannot be read,
+// empty when all went well. Waits for nothing that is no file.
+std::string readWhole(const std::string& path, std::string& bytes) {
+    bytes.clear();
+    const FileHandle file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (file.get() < 0) {
+        const bool isNothingThere = (errno == ENOENT || errno == ENOTDIR) && !isLink(path);
+        return isNothingThere ? "" : std::strerror(errno);
     }
-    return text.str();
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0) {
+        return std::strerror(errno);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return messages::kNoOrdinaryFile;
+    }
+    std::array<char, 1U << 16U> part{};
+    while (true) {
+        const ssize_t got = ::read(file.get(), part.data(), part.size());
+        if (got < 0 && errno != EINTR) {
+            return std::strerror(errno);
+        }
+        if (got == 0) {
+            return {};
+        }
+        bytes.append(part.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
+        if (bytes.size() > kMostBytes) {
+            return messages::kNoSettingsAreSoLarge;
+        }
+    }
 }
 
 // The file itself where the path is a link.
@@ -194,7 +226,11 @@ void IniStore::load() {
     }
     isLoaded_ = true;
     bool ignored = false;
-    sections_ = parseIni(readWhole(path_), ignored);
+    std::string text;
+    unread_ = readWhole(path_, text);
+    if (unread_.empty()) {
+        sections_ = parseIni(text, ignored);
+    }
 }
 
 std::string IniStore::read(const std::string& section, const std::string& key,
@@ -249,7 +285,9 @@ std::string IniStore::commit() {
     if (changes_.empty()) {
         return {};
     }
-    std::string failure = writeMerged();
+    // What could not be read is worth more than what would take its place.
+    std::string failure =
+        unread_.empty() ? writeMerged() : messages::settingsNotRead(path_, unread_);
     if (failure.empty()) {
         changes_.clear();
     }
@@ -263,7 +301,8 @@ std::string IniStore::writeMerged() {
     std::error_code error;
     std::filesystem::create_directories(std::filesystem::path(path_).parent_path(), error);
     const std::string target = resolved(path_);
-    const FileHandle lock(::open((target + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+    const FileHandle lock(::open((target + ".lock").c_str(),
+                                 O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     if (lock.get() < 0) {
         return failed(errno);
     }
@@ -272,7 +311,10 @@ std::string IniStore::writeMerged() {
         return messages::settingsNotSaved(
             path_, errno == EWOULDBLOCK ? messages::kStoreIsHeld : std::strerror(errno));
     }
-    const std::string before = readWhole(target);
+    std::string before;
+    if (const std::string unread = readWhole(target, before); !unread.empty()) {
+        return messages::settingsNotRead(path_, unread);
+    }
     bool isMalformed = false;
     IniSections merged = parseIni(before, isMalformed);
     struct stat status {};

@@ -1,6 +1,6 @@
 // The settings in one INI file, written whole or not at all: into a file beside it, flushed, and
 // renamed over it, under a lock that a second editor waits for, a while. Reads once, at the first
-// use.
+// use. A file that cannot be read is never written.
 #pragma once
 
 #include <map>
@@ -36,7 +36,8 @@ class IniStore : public SettingsStore {
 
     // Writes what was changed since the last time into the file, beside what another editor may
     // have written there. A malformed file is copied aside first, to its name and ".damaged". Empty
-    // when all went well, otherwise a sentence for the user; the file is then as it was.
+    // when all went well, otherwise a sentence for the user; the file is then as it was. Nothing is
+    // written in the life of a store that could not read its file.
     [[nodiscard]] std::string commit();
 
   private:
@@ -46,6 +47,7 @@ class IniStore : public SettingsStore {
     std::string path_;
     bool isPatient_ = true;  // waits for another editor that holds the file; not twice in vain
     bool isLoaded_ = false;
+    std::string unread_;  // why the file could not be read
     IniSections sections_;
     // Changes since the last commit, in order; no key: the section, no value: removed.
     struct Change {

@@ -23,11 +23,13 @@ inline constexpr const char* kUnknownPicture = "It is not a picture of a kind th
 inline constexpr const char* kCutOff = "It is cut off before its end";
 inline constexpr const char* kDamagedHeader = "Its header is damaged";
 inline constexpr const char* kUnknownCompression = "Its kind of compression cannot be read";
+inline constexpr const char* kNoSettingsAreSoLarge = "It is larger than preferences can be";
 inline constexpr const char* kStoreIsHeld = "Another program holds the file";
 inline constexpr const char* kNoMemory = "There is not enough memory for it";
 std::string pictureTooLarge(long long width, long long height);
 
 // The settings stay as they are on the disk.
+std::string settingsNotRead(const std::string& path, const std::string& reason);
 std::string settingsNotSaved(const std::string& path, const std::string& reason);
 
 }  // namespace ombrelia::messages

@@ -1,8 +1,9 @@
-// Laid in front of the C library: makes one call that changes a folder fail, or kills the process
-// in it. What to do stands in the environment:
+// Laid in front of the C library: makes one call that reads or changes a folder fail, or kills the
+// process in it. What to do stands in the environment:
 //   FAULT_FOLDER   calls on files below it are counted; all others pass
 //   FAULT_AT       number of the call that fails, from 1; 0: none
-//   FAULT_KIND     an error number, "short" (a write does one half), "kill" (in front of the call,
+//   FAULT_KIND     an error number, "short" (a write or read does one half), "kill" (in front of
+//   the call,
 //                  a write after one half) or "killed" (behind the call)
 //   FAULT_LASTS    1: every later call fails too, as on a full disk
 //   FAULT_LOG      a file that gets a line for each counted call
@@ -121,13 +122,24 @@ int open(const char* path, int flags, ...) {
         va_end(more);
     }
     static auto* const next = real<int(const char*, int, ...)>(nullptr, "open");
-    const bool writes = (flags & O_ACCMODE) != O_RDONLY;
-    if (!writes || isBusy || !isBelow(path)) {
+    if (isBusy || !isBelow(path)) {
         return next(path, flags, mode);
     }
     const int file = guarded("open", path, [&] { return next(path, flags, mode); });
     watch(file, true);
     return file;
+}
+
+ssize_t read(int file, void* bytes, std::size_t count) {
+    static auto* const next = real<ssize_t(int, void*, std::size_t)>(nullptr, "read");
+    if (!isWatchedFile(file) || !isChosen("read", "")) {
+        return next(file, bytes, count);
+    }
+    if (const int error = chosenError(); error != 0) {
+        errno = error;
+        return -1;
+    }
+    return next(file, bytes, isKind("short") ? count / 2 : count);
 }
 
 ssize_t write(int file, const void* bytes, std::size_t count) {

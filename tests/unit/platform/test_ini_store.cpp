@@ -11,6 +11,7 @@
 #include <string>
 #include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -262,6 +263,69 @@ TEST(ini_store, a_link_stays_a_link) {
     ASSERT_EQ(store.commit(), "");
     EXPECT_TRUE(fs::is_symlink(folder.file()));
     EXPECT_EQ(contents(real), "[Settings]\na=1\n\n");
+}
+
+// Reads a store at a path that leads to no ordinary file, and changes it.
+std::string changedAt(const std::string& path) {
+    IniStore store(path);
+    EXPECT_EQ(store.read("Settings", "a", "none"), "none");
+    store.write("Settings", "a", "1");
+    return store.commit();
+}
+
+TEST(ini_store, what_is_no_ordinary_file_is_told_and_left_as_it_is) {
+    const Folder folder;
+    fs::create_directories(folder.file());
+    EXPECT_NE(changedAt(folder.file()).find("not an ordinary file"), std::string::npos);
+    EXPECT_TRUE(fs::is_directory(folder.file()));
+
+    const std::string pipe = (folder.path() / "pipe").string();
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0666), 0);
+    EXPECT_NE(changedAt(pipe).find("not an ordinary file"), std::string::npos);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+
+    for (const char* target : {"/dev/zero", "/dev/null", "nowhere"}) {
+        const std::string link = (folder.path() / "link").string();
+        fs::remove(link);
+        fs::create_symlink(target, link);
+        const std::string sentence = changedAt(link);
+        EXPECT_NE(sentence.find("could not be read from \"" + link), std::string::npos) << sentence;
+        EXPECT_TRUE(fs::is_symlink(link)) << target;
+    }
+}
+
+TEST(ini_store, a_file_beyond_16_mib_is_told_and_left_as_it_is) {
+    const Folder folder;
+    put(folder.file(), "[Settings]\na=7\n");
+    fs::resize_file(folder.file(), (16U << 20U) + 1);
+    EXPECT_NE(changedAt(folder.file()).find("larger than preferences"), std::string::npos);
+    EXPECT_EQ(fs::file_size(folder.file()), (16U << 20U) + 1);
+}
+
+TEST(ini_store, a_file_that_cannot_be_read_is_never_written_in_this_run) {
+    const Folder folder;
+    const std::string pipe = (folder.path() / "pipe").string();
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0666), 0);
+    IniStore store(pipe);
+    store.write("Settings", "a", "1");
+    EXPECT_NE(store.commit(), "");
+    fs::remove(pipe);
+    put(pipe, "[Own]\nset=7\n");
+    store.write("Settings", "b", "2");
+    EXPECT_NE(store.commit(), "");
+    EXPECT_EQ(contents(pipe), "[Own]\nset=7\n");
+    EXPECT_EQ(store.read("Settings", "a", ""), "1") << "the run goes on with the value";
+}
+
+TEST(ini_store, pipes_in_the_place_of_its_passing_files_hold_nothing_up) {
+    const Folder folder;
+    put(folder.file(), "[Settings]\nno pair\n");
+    for (const char* ending : {".new", ".damaged"}) {
+        ASSERT_EQ(::mkfifo((folder.file() + ending).c_str(), 0666), 0);
+    }
+    EXPECT_EQ(changedAt(folder.file()), "");
+    EXPECT_EQ(contents(folder.file()), "[Settings]\na=1\n\n");
+    EXPECT_EQ(contents(folder.file() + ".damaged"), "[Settings]\nno pair\n");
 }
 
 TEST(ini_store, killed_while_writing_the_file_is_the_old_one_or_the_new_one) {
