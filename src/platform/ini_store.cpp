@@ -142,8 +142,9 @@ std::string readWhole(const std::string& path, std::string& bytes) {
     bytes.clear();
     const FileHandle file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (file.get() < 0) {
-        const bool isNothingThere = (errno == ENOENT || errno == ENOTDIR) && !isLink(path);
-        return isNothingThere ? "" : std::strerror(errno);
+        const int reason = errno;
+        const bool isNothingThere = (reason == ENOENT || reason == ENOTDIR) && !isLink(path);
+        return isNothingThere ? "" : std::strerror(reason);
     }
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) {

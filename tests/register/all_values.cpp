@@ -25,6 +25,7 @@ ValueRow colorRangeRow() {
               {0, ColorTable::kComponents - 1, kCell * ColorTable::kRows * ColorTable::kEnds}}}};
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<ValueRow> coreRows() {
     return {
         gridRow("HeightMap", HeightMap),

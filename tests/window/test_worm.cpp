@@ -108,14 +108,19 @@ TEST(WormWindow, its_window_has_a_fixed_size) {
 TEST(WormWindow, a_key_during_a_fade_comes_after_it) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openGame(driver));
-        ASSERT_TRUE(runIntoTheWall(driver));
-        driver.key("Down");
-        driver.inProgram([] {
-            EXPECT_TRUE(isHandling()) << "the fade was over too soon to prove anything";
-            EXPECT_EQ(Lives, 5);
-            EXPECT_EQ(Heading, kHeadRight);
-        });
-        EXPECT_TRUE(driver.waitFor([] { return Lives == 4 && Heading == kHeadDown; }));
+        // A busy machine may be too late with its key: then the next life is tried.
+        bool wasInTime = false;
+        for (int lives = 5; lives > 1 && !wasInTime; --lives) {
+            ASSERT_TRUE(runIntoTheWall(driver));
+            driver.key("Down");
+            driver.inProgram([&] {
+                wasInTime = isHandling() && Lives == lives;
+                EXPECT_TRUE(!wasInTime || Heading == kHeadRight);
+            });
+            ASSERT_TRUE(driver.waitFor([&] { return !isHandling() && Lives == lives - 1; }));
+        }
+        EXPECT_TRUE(wasInTime) << "each fade was over too soon to prove anything";
+        EXPECT_TRUE(driver.waitFor([] { return Heading == kHeadDown; }));
     });
 }
 

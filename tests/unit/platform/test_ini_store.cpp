@@ -317,6 +317,17 @@ TEST(ini_store, a_file_that_cannot_be_read_is_never_written_in_this_run) {
     EXPECT_EQ(store.read("Settings", "a", ""), "1") << "the run goes on with the value";
 }
 
+TEST(ini_store, a_file_that_cannot_be_read_any_more_is_told_and_left) {
+    const Folder folder;
+    const std::string path = (folder.path() / "late").string();
+    IniStore store(path);
+    EXPECT_EQ(store.read("Settings", "a", "none"), "none");
+    ASSERT_EQ(::mkfifo(path.c_str(), 0666), 0);
+    store.write("Settings", "a", "1");
+    EXPECT_NE(store.commit().find("not an ordinary file"), std::string::npos);
+    EXPECT_TRUE(fs::is_fifo(path));
+}
+
 TEST(ini_store, pipes_in_the_place_of_its_passing_files_hold_nothing_up) {
     const Folder folder;
     put(folder.file(), "[Settings]\nno pair\n");
