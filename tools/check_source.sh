@@ -14,6 +14,7 @@ tools/check_words.py
 tools/check_palette.py
 tools/check_documents.py
 tools/check_tests.py
+tools/check_register.py
 tools/check_commits.py
 
 step "Checking the format"
