@@ -10,7 +10,8 @@ grep -qs '^VERSION_ID="12"' /etc/os-release || TEST_PACKAGES+=(qt6-svg-plugins)
 CHECK_PACKAGES=(git python3 clang-format desktop-file-utils appstream man-db)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
 PRESET=${PRESET:-release}  # what the tests are built with; .ci/run takes "strict"
-SCREEN_TESTS='^(window|wayland|accessibility)'  # what runs real windows, for ctest -E
+# What runs real windows, or builds on its own and so needs no second compiler, for ctest -E.
+SCREEN_TESTS='^(window|wayland|accessibility|screens|two_ways|recipe)'
 
 # Says what begins, and how long what came before has taken.
 step() {
