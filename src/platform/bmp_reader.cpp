@@ -9,6 +9,7 @@
 #include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/messages.h"
+#include "platform/picture_sink.h"
 #include "platform/surface.h"
 
 namespace ombrelia {

@@ -11,6 +11,7 @@
 
 #include "platform/failure.h"
 #include "platform/messages.h"
+#include "platform/picture_sink.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
@@ -56,16 +57,6 @@ void FileSource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
         }
         into = into.subspan(static_cast<std::size_t>(got));
         offset += static_cast<std::uint64_t>(got);
-    }
-}
-
-void checkPictureSize(const std::string& path, std::int64_t width, std::int64_t height) {
-    constexpr auto kMostPixels = static_cast<std::int64_t>(kLargestPictureBytes / sizeof(Pixel));
-    if (width < 1 || height < 1) {
-        throw PictureFailure(path, messages::kDamagedHeader);
-    }
-    if (width > kMostPixels || height > kMostPixels / width) {
-        throw PictureFailure(path, messages::pictureTooLarge(width, height));
     }
 }
 

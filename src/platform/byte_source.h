@@ -56,12 +56,6 @@ class FileSource : public ByteSource {
     std::uint64_t size_ = 0;
 };
 
-// Bytes that a decoded picture may take, at 4 a pixel.
-inline constexpr std::uint64_t kLargestPictureBytes = std::uint64_t{1} << 30U;
-
-// Throws PictureFailure for a size that is not positive or is too large.
-void checkPictureSize(const std::string& path, std::int64_t width, std::int64_t height);
-
 // Checks the size, then gives it to picture, all black. Throws PictureFailure, also when there is
 // not enough memory.
 void sizePicture(const std::string& path, std::int64_t width, std::int64_t height,

@@ -19,7 +19,7 @@ namespace ombrelia {
 namespace {
 
 constexpr int kStripRows = 64;  // rows that are converted at once
-constexpr int kMostMegabytes = kLargestPictureBytes >> 20U;
+constexpr int kMostMegabytes = 1024;
 
 bool isAllowed(const QByteArray& format) {
     return !format.isEmpty() &&

@@ -94,17 +94,6 @@ TEST_F(FileSourceTest, links_and_odd_names_are_followed) {
     EXPECT_EQ(FileSource(folder / "link").size(), 2U);
 }
 
-TEST(PictureSize, the_limit_is_one_gibibyte_at_four_bytes_a_pixel) {
-    EXPECT_NO_THROW(checkPictureSize("p", 16384, 16384));
-    EXPECT_NO_THROW(checkPictureSize("p", 268435456, 1));
-    EXPECT_THROW(checkPictureSize("p", 268435457, 1), PictureFailure);
-    EXPECT_THROW(checkPictureSize("p", 1, 268435457), PictureFailure);
-    EXPECT_THROW(checkPictureSize("p", 16385, 16384), PictureFailure);
-    EXPECT_THROW(checkPictureSize("p", 4294967296, 4294967296), PictureFailure);
-    EXPECT_THROW(checkPictureSize("p", 0, 5), PictureFailure);
-    EXPECT_THROW(checkPictureSize("p", 5, -1), PictureFailure);
-}
-
 TEST(PictureSize, a_sized_picture_is_black) {
     Surface picture;
     sizePicture("p", 3, 2, picture);
