@@ -1,55 +1,18 @@
 #include "platform/bmp_rle.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "platform/byte_source.h"
-#include "platform/failure.h"
-#include "platform/messages.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
 
 namespace {
 
-constexpr std::uint64_t kChunkBytes = 65536;
-
 // What a count of 0 is followed by.
 constexpr unsigned kEndOfRow = 0;
 constexpr unsigned kEndOfPicture = 1;
 constexpr unsigned kMove = 2;
-
-// The bytes one after the other.
-class ByteStream {
-  public:
-    ByteStream(ByteSource& source, std::uint64_t offset) : source_(source), next_(offset) {}
-
-    bool atEnd() const { return place_ == chunk_.size() && next_ >= source_.size(); }
-
-    // Throws PictureFailure at the end.
-    unsigned take() {
-        if (place_ == chunk_.size()) {
-            fetch();
-        }
-        return chunk_[place_++];
-    }
-
-  private:
-    void fetch() {
-        if (next_ >= source_.size()) {
-            throw PictureFailure(source_.path(), messages::kCutOff);
-        }
-        chunk_.resize(std::min(kChunkBytes, source_.size() - next_));
-        source_.read(next_, chunk_);
-        next_ += chunk_.size();
-        place_ = 0;
-    }
-
-    ByteSource& source_;
-    std::uint64_t next_;
-    std::vector<std::uint8_t> chunk_;
-    std::size_t place_ = 0;
-};
 
 class RunLengthDecoder {
   public:

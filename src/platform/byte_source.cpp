@@ -60,6 +60,49 @@ void FileSource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
     }
 }
 
+std::uint8_t ByteStream::take() {
+    if (place_ == chunk_.size()) {
+        fetch();
+        if (chunk_.empty()) {
+            throw PictureFailure(source_.path(), messages::kCutOff);
+        }
+    }
+    return chunk_[place_++];
+}
+
+void ByteStream::fill(std::span<std::uint8_t> into) {
+    while (!into.empty()) {
+        if (place_ == chunk_.size()) {
+            fetch();
+        }
+        const std::size_t count = std::min(into.size(), chunk_.size() - place_);
+        if (count == 0) {
+            throw PictureFailure(source_.path(), messages::kCutOff);
+        }
+        std::copy_n(chunk_.begin() + static_cast<std::ptrdiff_t>(place_), count, into.begin());
+        place_ += count;
+        into = into.subspan(count);
+    }
+}
+
+std::span<const std::uint8_t> ByteStream::takeChunk() {
+    if (place_ == chunk_.size()) {
+        fetch();
+    }
+    const std::span<const std::uint8_t> rest = std::span(chunk_).subspan(place_);
+    place_ = chunk_.size();
+    return rest;
+}
+
+// Leaves the chunk empty at the end.
+void ByteStream::fetch() {
+    constexpr std::uint64_t kChunkBytes = 65536;
+    chunk_.resize(next_ < source_.size() ? std::min(kChunkBytes, source_.size() - next_) : 0);
+    place_ = 0;
+    source_.read(next_, chunk_);
+    next_ += chunk_.size();
+}
+
 void sizePicture(const std::string& path, std::int64_t width, std::int64_t height,
                  Surface& picture) {
     checkPictureSize(path, width, height);

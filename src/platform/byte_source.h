@@ -1,9 +1,10 @@
-// Bytes of a picture's file, read from any place; and the limits that every loader keeps.
+// Bytes of a picture's file, read from any place or one after the other.
 #pragma once
 
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace ombrelia {
 
@@ -54,6 +55,31 @@ class FileSource : public ByteSource {
   private:
     int handle_ = -1;
     std::uint64_t size_ = 0;
+};
+
+// The bytes one after the other.
+class ByteStream {
+  public:
+    ByteStream(ByteSource& source, std::uint64_t offset) : source_(source), next_(offset) {}
+
+    bool atEnd() const { return place_ == chunk_.size() && next_ >= source_.size(); }
+
+    // Throws PictureFailure at the end.
+    std::uint8_t take();
+
+    // Fills the whole of into. Throws PictureFailure at the end.
+    void fill(std::span<std::uint8_t> into);
+
+    // The bytes that are at hand, at least one unless the end is reached; they count as taken.
+    std::span<const std::uint8_t> takeChunk();
+
+  private:
+    void fetch();
+
+    ByteSource& source_;
+    std::uint64_t next_;
+    std::vector<std::uint8_t> chunk_;
+    std::size_t place_ = 0;
 };
 
 // Checks the size, then gives it to picture, all black. Throws PictureFailure, also when there is

@@ -94,6 +94,31 @@ TEST_F(FileSourceTest, links_and_odd_names_are_followed) {
     EXPECT_EQ(FileSource(folder / "link").size(), 2U);
 }
 
+TEST(ByteStream, gives_the_bytes_in_order_however_they_are_asked_for) {
+    std::vector<std::uint8_t> bytes(200'000);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        bytes[i] = static_cast<std::uint8_t>(i * 7 % 251);
+    }
+    MemorySource source("p", bytes);
+    ByteStream stream(source, 3);
+    EXPECT_EQ(stream.take(), bytes[3]);
+    std::vector<std::uint8_t> next(100'000);
+    stream.fill(next);
+    EXPECT_TRUE(std::equal(next.begin(), next.end(), bytes.begin() + 4));
+    std::size_t place = 100'004;
+    while (!stream.atEnd()) {
+        const auto chunk = stream.takeChunk();
+        ASSERT_FALSE(chunk.empty());
+        ASSERT_TRUE(std::equal(chunk.begin(), chunk.end(),
+                               bytes.begin() + static_cast<std::ptrdiff_t>(place)));
+        place += chunk.size();
+    }
+    EXPECT_EQ(place, bytes.size());
+    EXPECT_TRUE(stream.takeChunk().empty());
+    EXPECT_THROW(stream.take(), PictureFailure);
+    EXPECT_THROW(stream.fill(next), PictureFailure);
+}
+
 TEST(PictureSize, a_sized_picture_is_black) {
     Surface picture;
     sizePicture("p", 3, 2, picture);
