@@ -14,7 +14,7 @@
 #include "platform/failure.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/messages.h"
-#include "platform/qt/picture_loader.h"
+#include "platform/qt/toolkit_picture.h"
 #include "platform/window_life.h"
 #include "register/reset_process.h"
 
