@@ -11,6 +11,7 @@
 #include "core/windows/small_windows.h"
 #include "files/formats_table.h"
 #include "platform/numeric.h"
+#include "platform/picture_sink.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
 #include "views/map2d/map_transform.h"
@@ -20,6 +21,7 @@ namespace ombrelia {
 
 namespace {
 
+constexpr const char* kRunText = "Loading Image";
 constexpr std::int16_t kImportedShadow = -1;  // no height: painted at the next refresh
 
 struct PlanRow {
@@ -32,13 +34,65 @@ constexpr PlanRow kPlans[] = {{kLargeSize, kLargeSize},
                               {kSmallSize, kSmallSize},
                               {kMiniatureSize, kMiniatureSize}};
 
+int stepOf(int side, int target) {
+    return static_cast<int>(std::floor(static_cast<float>(side) / static_cast<float>(target)));
+}
+
+// What the import wants of a picture: the whole of a usual one, which the back buffer is lent to;
+// of a larger one the pixels that are read. While the file is being read, the panel says so, and
+// the red light gives it up.
+class ImportWish : public PictureWish {
+  public:
+    PictureGrid gridFor(int width, int height) override {
+        width_ = width;
+        height_ = height;
+        const ImportPlan plan = planImport(std::min(width, height));
+        grid_ = {1, 1, width, height};
+        constexpr int kMostWholePixels = 2048 * 2048;
+        if (height > kMostWholePixels / width) {
+            grid_ = plan.isDirect ? PictureGrid{1, 1, plan.target + 1, plan.target + 1}
+                                  : PictureGrid{stepOf(width, plan.target),
+                                                stepOf(height, plan.target), width, height};
+        }
+        return grid_;
+    }
+
+    bool goesOn() override {
+        if (!isAnnounced_) {
+            isAnnounced_ = true;
+            SetToolsEnabled(false);
+            StopFlag = 0;
+            LongRun::moveTo(0);
+            LongRun::announce(kRunText, kLargeSize);
+        }
+        LongRun::yield();
+        return !LongRun::noteStop();
+    }
+
+    int width() const { return width_; }
+    int height() const { return height_; }
+
+    // Whether the pixel lies in the picture; where in what was loaded it stands.
+    bool contains(int x, int y) const { return x < width_ && y < height_; }
+    Pixel pixelIn(const Surface& loaded, int x, int y) const {
+        return loaded.row(y / grid_.stepY)[x / grid_.stepX];
+    }
+
+  private:
+    PictureGrid grid_;
+    int width_ = 0;
+    int height_ = 0;
+    bool isAnnounced_ = false;
+};
+
 // The back buffer lent to the picture. When the loan ends the buffer has its size and its image
 // back: what ShadowMap calls painted is painted.
 class BorrowedBuffer {
   public:
-    explicit BorrowedBuffer(Surface& picture) : image_(picture) {
+    BorrowedBuffer(Surface& picture, int width, int height)
+        : image_(picture), width_(width), height_(height) {
         Form1.Mapview2.Canvas.exchangeImage(image_);
-        setSize(width(), height());
+        setSize(width_, height_);
     }
     ~BorrowedBuffer() {
         Form1.Mapview2.Canvas.exchangeImage(image_);
@@ -47,11 +101,8 @@ class BorrowedBuffer {
     BorrowedBuffer(const BorrowedBuffer&) = delete;
     BorrowedBuffer& operator=(const BorrowedBuffer&) = delete;
 
-    int width() const { return Form1.Mapview2.Canvas.width(); }
-    int height() const { return Form1.Mapview2.Canvas.height(); }
-
     // Of the control; what lies beyond the picture stays outside it.
-    void widenByOne() { setSize(width() + 1, height() + 1); }
+    void widenByOne() { setSize(width_ + 1, height_ + 1); }
 
   private:
     static void setSize(int width, int height) {
@@ -60,6 +111,8 @@ class BorrowedBuffer {
     }
 
     Surface& image_;
+    int width_;
+    int height_;
 };
 
 // Says to the gestures on the map that they find it being written.
@@ -79,15 +132,17 @@ std::int16_t heightOfPixel(Pixel pixel) {
 // The picture's heights by column; 0 outside.
 class PictureHeights {
   public:
-    explicit PictureHeights(const Surface& picture) : picture_(picture) {}
+    PictureHeights(const ImportWish& picture, const Surface& loaded)
+        : picture_(picture), loaded_(loaded) {}
 
     std::int16_t at(int x, int y) const {
-        const bool isInside = x < picture_.width() && y < picture_.height();
-        return isInside ? heightOfPixel(picture_.row(y)[x]) : heightOfColor(-1);
+        return picture_.contains(x, y) ? heightOfPixel(picture_.pixelIn(loaded_, x, y))
+                                       : heightOfColor(-1);
     }
 
   private:
-    const Surface& picture_;
+    const ImportWish& picture_;
+    const Surface& loaded_;
 };
 
 void writePoint(int x, int y, std::int16_t height) {
@@ -101,16 +156,11 @@ float placeOnMap(int pixel, int side) {
     return target * (static_cast<float>(pixel) / static_cast<float>(side));
 }
 
-int stepOf(int side) {
-    return static_cast<int>(
-        std::floor(static_cast<float>(side) / static_cast<float>(ImportTarget)));
-}
-
 // Required: the far ends count too and read beyond the picture
 // (the_far_ends_read_beyond_the_picture).
 void samplePicture(const PictureHeights& heights, int width, int height) {
-    const int stepX = stepOf(width);
-    const int stepY = stepOf(height);
+    const int stepX = stepOf(width, ImportTarget);
+    const int stepY = stepOf(height, ImportTarget);
     for (int a = 0; a <= width; a += stepX) {
         const auto x = static_cast<int>(roundToEven(placeOnMap(a, width)));
         for (int b = 0; b <= height; b += stepY) {
@@ -139,18 +189,16 @@ void takePlan(int width, int height) {
     MapSize = ImportTarget;
 }
 
-void takeHeights(Surface& picture) {
-    BorrowedBuffer buffer(picture);
-    const int width = buffer.width();
-    const int height = buffer.height();
-    takePlan(width, height);
+void takeHeights(const ImportWish& wish, Surface& picture) {
+    BorrowedBuffer buffer(picture, wish.width(), wish.height());
+    takePlan(wish.width(), wish.height());
     // Required: the tools are enabled from here on (an_import_leaves_the_tools_enabled).
     const LongRun run(LongRun::Tools::Free);
     StopFlag = 0;
-    LongRun::announce("Loading Image", ImportTarget);
-    const PictureHeights heights(Form1.Mapview2.Canvas);
+    LongRun::announce(kRunText, ImportTarget);
+    const PictureHeights heights(wish, Form1.Mapview2.Canvas);
     if (ImportDirect == 0) {
-        samplePicture(heights, width, height);
+        samplePicture(heights, wish.width(), wish.height());
     } else {
         buffer.widenByOne();
         copyPicture(heights);
@@ -186,9 +234,12 @@ bool importPicture() {
     }
     const RunningImport running;
     {
+        ImportWish wish;
         Surface picture;
-        services().pictures->loadPicture(name, picture);
-        takeHeights(picture);
+        if (!services().pictures->loadPicture(name, wish, picture)) {
+            return false;
+        }
+        takeHeights(wish, picture);
     }
     LongRun::tellEnd();
     Form1.Label11.Caption = AppName + sizeSuffix();

@@ -5,8 +5,9 @@
 
 namespace ombrelia {
 
-// Asks for a picture and makes it the map: heights, MapSize, title, view. False on Cancel and when
-// there is nothing of that name. Throws PictureFailure, with the map and the back buffer as before.
+// Asks for a picture and makes it the map: heights, MapSize, title, view. False on Cancel, when
+// there is nothing of that name, and when the reading of the file was stopped. Throws
+// PictureFailure, with the map and the back buffer as before.
 [[nodiscard]] bool importPicture();
 
 // How a picture is brought to one of the four sizes.

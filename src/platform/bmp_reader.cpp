@@ -185,7 +185,7 @@ void checkLength(const ByteSource& source, const BitmapHeader& header) {
     }
 }
 
-void readRows(ByteSource& source, const BitmapHeader& header, Surface& picture) {
+void readRows(ByteSource& source, const BitmapHeader& header, PictureSink& picture) {
     RowDecoder decoder(header);
     if (decoder.hasAlpha()) {
         bool isAnyVisible = false;
@@ -197,27 +197,31 @@ void readRows(ByteSource& source, const BitmapHeader& header, Surface& picture) 
             decoder.ignoreAlpha();
         }
     }
+    std::vector<Pixel> pixels(static_cast<std::size_t>(header.width));
     forEachRow(source, header, [&](const std::uint8_t* bytes, std::int64_t row) {
-        const std::int64_t y = header.isTopDown ? row : header.height - 1 - row;
-        decoder.decode(bytes, picture.row(static_cast<int>(y)));
+        const auto y = static_cast<int>(header.isTopDown ? row : header.height - 1 - row);
+        if (picture.keepsRow(y)) {
+            decoder.decode(bytes, pixels.data());
+            picture.putRow(y, pixels.data());
+        }
         return true;
     });
 }
 
 }  // namespace
 
-void readBitmap(ByteSource& source, Surface& picture) {
+void readBitmap(ByteSource& source, PictureWish& wish, Surface& picture) {
     const BitmapHeader header = readBitmapHeader(source);
     const bool isCoded = header.coding == BitmapCoding::Rle8 || header.coding == BitmapCoding::Rle4;
     checkPictureSize(source.path(), header.width, header.height);
     if (!isCoded) {
         checkLength(source, header);
     }
-    sizePicture(source.path(), header.width, header.height, picture);
+    PictureSink sink(source.path(), header.width, header.height, wish, picture);
     if (isCoded) {
-        readRunLengths(source, header, picture);
+        readRunLengths(source, header, sink);
     } else {
-        readRows(source, header, picture);
+        readRows(source, header, sink);
     }
     picture.changed();
 }

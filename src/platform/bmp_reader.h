@@ -9,11 +9,12 @@
 namespace ombrelia {
 
 class ByteSource;
+class PictureWish;
 class Surface;
 
-// Gives picture the bitmap's size and pixels. Parts that are transparent by a mask of alpha come
-// over black, unless all of them are. Throws PictureFailure, before memory is taken if the bytes
-// are too few.
-void readBitmap(ByteSource& source, Surface& picture);
+// Gives picture the pixels of the bitmap that are wished for. Parts that are transparent by a mask
+// of alpha come over black, unless all of them are. Throws PictureFailure, before memory is taken
+// if the bytes are too few.
+void readBitmap(ByteSource& source, PictureWish& wish, Surface& picture);
 
 }  // namespace ombrelia

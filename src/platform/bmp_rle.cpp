@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/byte_source.h"
-#include "platform/surface.h"
+#include "platform/picture_sink.h"
 
 namespace ombrelia {
 
@@ -16,7 +16,7 @@ constexpr unsigned kMove = 2;
 
 class RunLengthDecoder {
   public:
-    RunLengthDecoder(ByteSource& source, const BitmapHeader& header, Surface& picture)
+    RunLengthDecoder(ByteSource& source, const BitmapHeader& header, PictureSink& picture)
         : bytes_(source, header.pixelOffset), header_(header), picture_(picture) {}
 
     void decode() {
@@ -52,7 +52,7 @@ class RunLengthDecoder {
     void put(unsigned index) {
         if (x_ < header_.width) {
             const std::int64_t row = header_.isTopDown ? y_ : header_.height - 1 - y_;
-            picture_.row(static_cast<int>(row))[x_] = header_.palette[index];
+            picture_.putPixel(static_cast<int>(x_), static_cast<int>(row), header_.palette[index]);
             ++x_;
         }
     }
@@ -94,17 +94,15 @@ class RunLengthDecoder {
 
     ByteStream bytes_;
     const BitmapHeader& header_;
-    Surface& picture_;
+    PictureSink& picture_;
     std::int64_t x_ = 0;
     std::int64_t y_ = 0;  // counted as the file does
 };
 
 }  // namespace
 
-void readRunLengths(ByteSource& source, const BitmapHeader& header, Surface& picture) {
-    for (int y = 0; y < picture.height(); ++y) {
-        std::fill_n(picture.row(y), picture.width(), header.palette[0]);
-    }
+void readRunLengths(ByteSource& source, const BitmapHeader& header, PictureSink& picture) {
+    picture.fill(header.palette[0]);
     RunLengthDecoder(source, header, picture).decode();
 }
 

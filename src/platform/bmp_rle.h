@@ -5,10 +5,10 @@
 
 namespace ombrelia {
 
-class Surface;
+class PictureSink;
 
-// Decodes into picture, which has the header's size. A pixel that the runs skip has the colour of
-// index 0. Throws PictureFailure when the bytes end before the picture does.
-void readRunLengths(ByteSource& source, const BitmapHeader& header, Surface& picture);
+// Decodes into picture, which was made for the header's size. A pixel that the runs skip has the
+// colour of index 0. Throws PictureFailure when the bytes end before the picture does.
+void readRunLengths(ByteSource& source, const BitmapHeader& header, PictureSink& picture);
 
 }  // namespace ombrelia

@@ -4,15 +4,12 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
-#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
 #include "platform/failure.h"
 #include "platform/messages.h"
-#include "platform/picture_sink.h"
-#include "platform/surface.h"
 
 namespace ombrelia {
 
@@ -101,16 +98,6 @@ void ByteStream::fetch() {
     place_ = 0;
     source_.read(next_, chunk_);
     next_ += chunk_.size();
-}
-
-void sizePicture(const std::string& path, std::int64_t width, std::int64_t height,
-                 Surface& picture) {
-    checkPictureSize(path, width, height);
-    try {
-        picture.setSize(static_cast<int>(width), static_cast<int>(height));
-    } catch (const std::bad_alloc&) {
-        throw PictureFailure(path, messages::kNoMemory);
-    }
 }
 
 }  // namespace ombrelia

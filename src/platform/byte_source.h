@@ -8,8 +8,6 @@
 
 namespace ombrelia {
 
-class Surface;
-
 class ByteSource {
   public:
     explicit ByteSource(std::string path) : path_(std::move(path)) {}
@@ -81,10 +79,5 @@ class ByteStream {
     std::vector<std::uint8_t> chunk_;
     std::size_t place_ = 0;
 };
-
-// Checks the size, then gives it to picture, all black. Throws PictureFailure, also when there is
-// not enough memory.
-void sizePicture(const std::string& path, std::int64_t width, std::int64_t height,
-                 Surface& picture);
 
 }  // namespace ombrelia

@@ -11,6 +11,7 @@
 
 namespace ombrelia {
 
+class PictureWish;
 class Surface;
 struct Control;
 struct ListBox;
@@ -70,10 +71,11 @@ class FileSystem {
 class PictureLoader {
   public:
     virtual ~PictureLoader() = default;
-    // Gives picture the size and the pixels of the picture in the file: upright, transparent parts
-    // over black. What the file holds decides, not its name. Throws PictureFailure; picture may
-    // then hold anything.
-    virtual void loadPicture(const std::string& path, Surface& picture) = 0;
+    // Gives picture the pixels that are wished for of the picture in the file: upright, transparent
+    // parts over black. What the file holds decides, not its name. False if the wish gives it up.
+    // Throws PictureFailure; picture may then hold anything.
+    [[nodiscard]] virtual bool loadPicture(const std::string& path, PictureWish& wish,
+                                           Surface& picture) = 0;
 };
 
 class Clock {

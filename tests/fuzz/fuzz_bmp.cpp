@@ -5,26 +5,31 @@
 
 #include "files/bitmap_import.h"
 #include "pixel_at.h"
-#include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
 #include "platform/failure.h"
+#include "platform/picture_sink.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
 
 namespace {
 
-constexpr std::int64_t kMostPixels = 1 << 20;  // larger ones only take time
+// Every pixel of a small picture, some of a large one.
+class SomePixels : public PictureWish {
+  public:
+    PictureGrid gridFor(int width, int height) override {
+        constexpr int kMostKept = 1024;
+        return {width / kMostKept + 1, height / kMostKept + 1, width, height};
+    }
+    bool goesOn() override { return true; }
+};
 
 std::vector<std::int16_t> heightsOf(ByteSource& source) {
     std::vector<std::int16_t> heights;
-    const BitmapHeader header = readBitmapHeader(source);
-    if (header.width > kMostPixels || header.height > kMostPixels / header.width) {
-        return heights;
-    }
     Surface picture;
-    readBitmap(source, picture);
+    SomePixels wish;
+    readBitmap(source, wish, picture);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             heights.push_back(heightOfColor(pixelAt(picture, x, y)));

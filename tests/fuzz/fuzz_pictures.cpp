@@ -1,20 +1,14 @@
 // Bytes in, heights out through the loader of the real platform and the whole import: the map then
 // holds heights of 0..255, or is as it was and a failure is told.
-#include <QBuffer>
-#include <QImageReader>
 #include <cstdlib>
 
 #include "core/objects.h"
 #include "core/windows/form1.h"
 #include "desk/run_command.h"
-#include "platform/bmp_header.h"
-#include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
 #include "platform/dispatch.h"
-#include "platform/failure.h"
 #include "platform/headless/headless_platform.h"
-#include "platform/messages.h"
-#include "platform/qt/toolkit_picture.h"
+#include "platform/qt/picture_loader.h"
 #include "platform/window_life.h"
 #include "register/reset_process.h"
 
@@ -22,37 +16,16 @@ namespace ombrelia {
 
 namespace {
 
-constexpr std::int64_t kMostPixels = 1 << 20;  // larger ones only take time
 constexpr const char* kName = "fuzz";
 
 class FuzzedLoader : public PictureLoader {
   public:
     std::span<const std::uint8_t> Bytes;
 
-    void loadPicture(const std::string& path, Surface& picture) override {
+    bool loadPicture(const std::string& path, PictureWish& wish, Surface& picture) override {
         MemorySource source(path, Bytes);
-        if (isBitmap(source)) {
-            const BitmapHeader header = readBitmapHeader(source);
-            refuseLarge(header.width, header.height);
-            readBitmap(source, picture);
-            return;
-        }
-        QByteArray bytes(reinterpret_cast<const char*>(Bytes.data()),
-                         static_cast<qsizetype>(Bytes.size()));
-        QBuffer sized(&bytes);
-        sized.open(QIODevice::ReadOnly);
-        const QSize size = QImageReader(&sized).size();
-        refuseLarge(size.width(), size.height());
-        QBuffer device(&bytes);
-        device.open(QIODevice::ReadOnly);
-        readToolkitPicture(device, path, picture);
-    }
-
-  private:
-    static void refuseLarge(std::int64_t width, std::int64_t height) {
-        if (width > 0 && height > kMostPixels / width) {
-            throw PictureFailure(kName, messages::pictureTooLarge(width, height));
-        }
+        readPicture(source, wish, picture);
+        return true;
     }
 };
 

@@ -5,10 +5,11 @@
 #include <gtest/gtest.h>
 
 #include "platform/bitmap_bytes.h"
+#include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/picture_kinds_table.h"
 #include "platform/qt/picture_loader.h"
-#include "temp_folder.h"
+#include "whole_picture.h"
 
 namespace ombrelia {
 
@@ -65,6 +66,13 @@ std::string tgaFile(const QImage& image) {
     return line.bytes();
 }
 
+void readBytes(const std::string& bytes, Surface& picture) {
+    MemorySource source(
+        "P", std::span(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
+    WholePicture wish;
+    readPicture(source, wish, picture);
+}
+
 }  // namespace
 
 QImage colorful(int width, int height) {
@@ -108,23 +116,17 @@ std::string fileOf(const QImage& image, const std::string& kind) {
 }
 
 Surface loadBytes(const std::string& bytes) {
-    const TempFolder folder;
-    writeContent(folder / "P", bytes);
     Surface picture;
-    QtPictureLoader().loadPicture(folder / "P", picture);
+    readBytes(bytes, picture);
     return picture;
 }
 
 std::string refusalOfFile(const std::string& bytes) {
-    const TempFolder folder;
-    writeContent(folder / "P", bytes);
     Surface picture;
     try {
-        QtPictureLoader().loadPicture(folder / "P", picture);
+        readBytes(bytes, picture);
     } catch (const PictureFailure& failure) {
-        std::string words = failure.what();
-        const std::string path = folder / "P";
-        return words.replace(words.find(path), path.size(), "P");
+        return failure.what();
     }
     return {};
 }

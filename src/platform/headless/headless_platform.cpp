@@ -125,15 +125,16 @@ bool HeadlessPlatform::isNameTaken(const std::string& path) {
     return told != Files.end() ? told->second : ombrelia::isNameTaken(path);
 }
 
-void HeadlessPlatform::loadPicture(const std::string& path, Surface& picture) {
+bool HeadlessPlatform::loadPicture(const std::string& path, PictureWish& wish, Surface& picture) {
     FileSource source(path);
     if (isBitmap(source)) {
-        readBitmap(source, picture);
+        readBitmap(source, wish, picture);
     } else if (isPortableMap(source)) {
-        readPortableMap(source, picture);
+        readPortableMap(source, wish, picture);
     } else {
         throw PictureFailure(path, messages::kUnknownPicture);
     }
+    return true;
 }
 
 double HeadlessPlatform::secondsSinceMidnight() {

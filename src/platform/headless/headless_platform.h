@@ -112,7 +112,7 @@ class HeadlessPlatform : public Dialogs,
     bool fileExists(const std::string& path) override;
     bool isNameTaken(const std::string& path) override;
     // Reads bitmaps and portable maps.
-    void loadPicture(const std::string& path, Surface& picture) override;
+    bool loadPicture(const std::string& path, PictureWish& wish, Surface& picture) override;
     double secondsSinceMidnight() override;
     void seedFromClock() override;
     void draw(std::span<float> draws) override;

@@ -6,6 +6,7 @@
 #include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/messages.h"
+#include "platform/picture_sink.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
@@ -74,7 +75,7 @@ bool isPortableMap(ByteSource& source) {
            (begin[1] == '2' || begin[1] == '3' || begin[1] == '5' || begin[1] == '6');
 }
 
-void readPortableMap(ByteSource& source, Surface& picture) {
+void readPortableMap(ByteSource& source, PictureWish& wish, Surface& picture) {
     MapText text(source);
     const bool isGrey = text.kind() == '2' || text.kind() == '5';
     const bool isInBytes = text.kind() == '5' || text.kind() == '6';
@@ -86,14 +87,14 @@ void readPortableMap(ByteSource& source, Surface& picture) {
     if (isInBytes) {
         text.byte();  // one blank parts the header from the bytes
     }
-    sizePicture(source.path(), width, height, picture);
+    PictureSink sink(source.path(), width, height, wish, picture);
     const auto next = [&] { return isInBytes ? text.byte() : text.number(); };
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
+    for (int y = 0; y < static_cast<int>(height); ++y) {
+        for (int x = 0; x < static_cast<int>(width); ++x) {
             const unsigned red = next();
             const unsigned green = isGrey ? red : next();
             const unsigned blue = isGrey ? red : next();
-            picture.row(y)[x] = pixelOf(rgb(red, green, blue));
+            sink.putPixel(x, y, pixelOf(rgb(red, green, blue)));
         }
     }
     picture.changed();

@@ -5,13 +5,14 @@
 namespace ombrelia {
 
 class ByteSource;
+class PictureWish;
 class Surface;
 
 // Whether the bytes begin as one of them.
 bool isPortableMap(ByteSource& source);
 
-// Gives picture the map's size and pixels. Throws PictureFailure, for a highest value other than
-// 255 too.
-void readPortableMap(ByteSource& source, Surface& picture);
+// Gives picture the pixels of the map that are wished for. Throws PictureFailure, for a highest
+// value other than 255 too.
+void readPortableMap(ByteSource& source, PictureWish& wish, Surface& picture);
 
 }  // namespace ombrelia

@@ -1,26 +1,24 @@
 #include "platform/qt/picture_loader.h"
 
-#include <QFile>
-
 #include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
-#include "platform/failure.h"
 #include "platform/qt/toolkit_picture.h"
 
 namespace ombrelia {
 
-void QtPictureLoader::loadPicture(const std::string& path, Surface& picture) {
+bool QtPictureLoader::loadPicture(const std::string& path, PictureWish& wish, Surface& picture) {
     FileSource source(path);
+    readPicture(source, wish, picture);
+    return true;
+}
+
+void readPicture(ByteSource& source, PictureWish& wish, Surface& picture) {
     if (isBitmap(source)) {
-        readBitmap(source, picture);
-        return;
+        readBitmap(source, wish, picture);
+    } else {
+        readToolkitPicture(source, wish, picture);
     }
-    QFile device;
-    if (!device.open(source.handle(), QIODevice::ReadOnly)) {
-        throw PictureFailure(path, device.errorString().toStdString());
-    }
-    readToolkitPicture(device, path, picture);
 }
 
 }  // namespace ombrelia

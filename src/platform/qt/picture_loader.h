@@ -5,9 +5,14 @@
 
 namespace ombrelia {
 
+class ByteSource;
+
 class QtPictureLoader : public PictureLoader {
   public:
-    void loadPicture(const std::string& path, Surface& picture) override;
+    bool loadPicture(const std::string& path, PictureWish& wish, Surface& picture) override;
 };
+
+// Throws PictureFailure.
+void readPicture(ByteSource& source, PictureWish& wish, Surface& picture);
 
 }  // namespace ombrelia

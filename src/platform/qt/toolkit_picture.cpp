@@ -1,13 +1,19 @@
 #include "platform/qt/toolkit_picture.h"
 
+#include <QIODevice>
 #include <QImageReader>
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
+#include <span>
+#include <utility>
+#include <vector>
 
 #include "platform/byte_source.h"
 #include "platform/failure.h"
 #include "platform/messages.h"
 #include "platform/picture_kinds_table.h"
+#include "platform/picture_sink.h"
 #include "platform/qt/picture_end.h"
 #include "platform/surface.h"
 
@@ -15,8 +21,32 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kStripRows = 64;  // rows that are converted at once
 constexpr int kMostMegabytes = 1024;
+
+// A file as the toolkit reads it. What the disk refuses is an end to the toolkit.
+class SourceDevice : public QIODevice {
+  public:
+    explicit SourceDevice(ByteSource& source) : source_(source) { open(ReadOnly | Unbuffered); }
+    qint64 size() const override { return static_cast<qint64>(source_.size()); }
+
+  protected:
+    qint64 readData(char* into, qint64 most) override {
+        const qint64 count = std::min(most, size() - pos());
+        const auto bytes = std::span(reinterpret_cast<std::uint8_t*>(into),
+                                     static_cast<std::size_t>(std::max<qint64>(count, 0)));
+        try {
+            source_.read(static_cast<std::uint64_t>(pos()), bytes);
+        } catch (const PictureFailure& failure) {
+            setErrorString(QString::fromUtf8(failure.what()));
+            return -1;
+        }
+        return count;
+    }
+    qint64 writeData(const char* /*from*/, qint64 /*count*/) override { return -1; }
+
+  private:
+    ByteSource& source_;
+};
 
 bool isAllowed(const QByteArray& format) {
     return !format.isEmpty() &&
@@ -35,88 +65,77 @@ QByteArray formatOf(QIODevice& device) {
     return isIcon && begin.endsWith(QByteArray(kCountBytes, '\0')) ? QByteArray("tga") : format;
 }
 
-bool isHeldBySurface(QImage::Format format) {
-    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32 ||
-           format == QImage::Format_ARGB32_Premultiplied;
-}
-
 // What the reader decodes into, all black: it keeps an image of the right size and format, so what
-// a damaged file leaves out is not what was in memory before. The surface's own memory where the
-// format fits it.
-QImage preparedImage(QImage::Format format, Surface& picture) {
-    if (isHeldBySurface(format)) {
-        return {reinterpret_cast<uchar*>(picture.row(0)), picture.width(), picture.height(),
-                static_cast<qsizetype>(picture.width()) * static_cast<qsizetype>(sizeof(Pixel)),
-                format};
-    }
-    if (format == QImage::Format_Invalid) {
-        return {};
-    }
-    QImage image(picture.width(), picture.height(), format);
-    image.fill(0);
-    return image;
-}
-
-// Sizes picture by what the file says of itself, and gives the image to decode it into. With a
-// reader of its own, since some kinds read on where the question for the size has stopped.
-QImage imageFor(QIODevice& device, const QByteArray& format, const std::string& path,
-                Surface& picture) {
+// a damaged file leaves out is not what was in memory before. With a reader of its own, since some
+// kinds read on where the question for the size has stopped.
+QImage imageFor(QIODevice& device, const QByteArray& format, const std::string& path) {
     const qint64 begin = device.pos();
     QImage image;
     QImageReader reader(&device, format);
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
+    const QImage::Format pixels = reader.imageFormat();
     if (size.isValid() && !size.isEmpty()) {
-        sizePicture(path, size.width(), size.height(), picture);
-        image = preparedImage(reader.imageFormat(), picture);
+        checkPictureSize(path, size.width(), size.height());
+        constexpr qint64 kMostBytes = qint64{kMostMegabytes} << 20;
+        const int bytes = pixels == QImage::Format_RGBA64 ? 8 : 4;
+        if (qint64{size.width()} * size.height() * bytes > kMostBytes) {
+            throw PictureFailure(path, messages::pictureTooLarge(size.width(), size.height()));
+        }
+        if (pixels != QImage::Format_Invalid) {
+            image = QImage(size, pixels);
+            image.fill(0);
+        }
     }
     device.seek(begin);
     return image;
 }
 
-void copyGrey16(const QImage& image, Surface& picture) {
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto* from = reinterpret_cast<const quint16*>(image.constScanLine(y));
-        std::transform(from, from + picture.width(), picture.row(y), [](quint16 grey) {
-            const auto top = static_cast<unsigned>(grey) >> 8U;
-            return pixelOf(rgb(top, top, top));
-        });
+PictureTurn turnOf(QImageIOHandler::Transformations turn) {
+    // The toolkit mirrors first and turns by a quarter then.
+    PictureTurn result;
+    result.exchangesAxes = turn.testFlag(QImageIOHandler::TransformationRotate90);
+    result.mirrorsX = turn.testFlag(QImageIOHandler::TransformationMirror);
+    result.mirrorsY = turn.testFlag(QImageIOHandler::TransformationFlip);
+    if (result.exchangesAxes) {
+        std::swap(result.mirrorsX, result.mirrorsY);
+        result.mirrorsX = !result.mirrorsX;
     }
+    return result;
 }
 
-// Strip by strip, so that the picture is not held three times.
-void copyConverted(const QImage& image, Surface& picture) {
-    for (int y = 0; y < picture.height(); y += kStripRows) {
-        const int rows = std::min(kStripRows, picture.height() - y);
-        // Premultiplied components are those over black.
-        const QImage strip = image.copy(0, y, picture.width(), rows)
-                                 .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        for (int i = 0; i < rows; ++i) {
-            const auto* from = reinterpret_cast<const Pixel*>(strip.constScanLine(i));
-            std::transform(from, from + picture.width(), picture.row(y + i),
+// Row by row, so that the picture is not held once more.
+void putRows(const QImage& image, const std::string& path, PictureSink& sink) {
+    const bool isDeepGrey = image.format() == QImage::Format_Grayscale16;
+    std::vector<Pixel> pixels(static_cast<std::size_t>(image.width()));
+    for (int y = 0; y < image.height(); ++y) {
+        if (!sink.keepsRow(y)) {
+            continue;
+        }
+        if (isDeepGrey) {
+            const auto* from = reinterpret_cast<const quint16*>(image.constScanLine(y));
+            std::transform(from, from + image.width(), pixels.begin(),
+                           [](int grey) { return qRgb(grey >> 8, grey >> 8, grey >> 8); });
+        } else {
+            // Premultiplied components are those over black.
+            const QImage row = image.copy(0, y, image.width(), 1)
+                                   .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+            if (row.isNull()) {
+                throw PictureFailure(path, messages::kNoMemory);
+            }
+            const auto* from = reinterpret_cast<const Pixel*>(row.constScanLine(0));
+            std::transform(from, from + image.width(), pixels.begin(),
                            [](Pixel pixel) { return pixel | 0xFF000000U; });
         }
-    }
-}
-
-void takeImage(const QImage& image, const std::string& path, Surface& picture) {
-    if (image.width() != picture.width() || image.height() != picture.height()) {
-        sizePicture(path, image.width(), image.height(), picture);
-    }
-    const bool isInPlace = image.constBits() == reinterpret_cast<const uchar*>(picture.row(0));
-    if (isInPlace && image.format() == QImage::Format_RGB32) {
-        return;
-    }
-    if (image.format() == QImage::Format_Grayscale16) {
-        copyGrey16(image, picture);
-    } else {
-        copyConverted(image, picture);
+        sink.putRow(y, pixels.data());
     }
 }
 
 }  // namespace
 
-void readToolkitPicture(QIODevice& device, const std::string& path, Surface& picture) {
+void readToolkitPicture(ByteSource& source, PictureWish& wish, Surface& picture) {
+    const std::string& path = source.path();
+    SourceDevice device(source);
     const QByteArray format = formatOf(device);
     if (!isAllowed(format)) {
         throw PictureFailure(path, messages::kUnknownPicture);
@@ -125,14 +144,15 @@ void readToolkitPicture(QIODevice& device, const std::string& path, Surface& pic
         throw PictureFailure(path, messages::kCutOff);
     }
     QImageReader::setAllocationLimit(kMostMegabytes);
-    QImage image = imageFor(device, format, path, picture);
+    QImage image = imageFor(device, format, path);
     QImageReader reader(&device, format);
     reader.setAutoDetectImageFormat(false);
-    reader.setAutoTransform(true);
+    const PictureTurn turn = turnOf(reader.transformation());
     if (!reader.read(&image) || image.isNull()) {
         throw PictureFailure(path, reader.errorString().toStdString());
     }
-    takeImage(image, path, picture);
+    PictureSink sink(path, image.width(), image.height(), wish, picture, turn);
+    putRows(image, path, sink);
     picture.changed();
 }
 

@@ -1,15 +1,14 @@
 // Pictures of the kinds that the toolkit reads, each as a whole.
 #pragma once
 
-#include <string>
-
-class QIODevice;
-
 namespace ombrelia {
 
+class ByteSource;
+class PictureWish;
 class Surface;
 
-// What the toolkit makes of a file's content; path is for messages. Throws PictureFailure.
-void readToolkitPicture(QIODevice& device, const std::string& path, Surface& picture);
+// Gives picture the pixels that are wished for, upright, over black. Throws PictureFailure, for a
+// picture too that takes more than 1 GiB.
+void readToolkitPicture(ByteSource& source, PictureWish& wish, Surface& picture);
 
 }  // namespace ombrelia

@@ -7,6 +7,7 @@
 #include "core/windows/form1.h"
 #include "desk/run_command.h"
 #include "platform/dispatch.h"
+#include "platform/picture_sink.h"
 
 namespace ombrelia {
 
@@ -35,8 +36,12 @@ Surface pictureOf(int width, int height, const Painter& painter) {
     return picture;
 }
 
-void PictureInMemory::loadPicture(const std::string& /*path*/, Surface& picture) {
-    picture = Picture;
+bool PictureInMemory::loadPicture(const std::string& path, PictureWish& wish, Surface& picture) {
+    PictureSink sink(path, Picture.width(), Picture.height(), wish, picture);
+    for (int y = 0; y < Picture.height(); ++y) {
+        sink.putRow(y, Picture.row(y));
+    }
+    return true;
 }
 
 Desk::Desk()

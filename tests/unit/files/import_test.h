@@ -20,7 +20,7 @@ Surface pictureOf(int width, int height, const Painter& painter);
 // Gives a picture that is in memory.
 class PictureInMemory : public PictureLoader {
   public:
-    void loadPicture(const std::string& path, Surface& picture) override;
+    bool loadPicture(const std::string& path, PictureWish& wish, Surface& picture) override;
     Surface Picture;
 };
 

@@ -6,6 +6,7 @@
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
 #include "platform/failure.h"
+#include "whole_picture.h"
 
 namespace ombrelia {
 
@@ -142,7 +143,8 @@ std::string trueColorBitmap(const Surface& picture) {
 Surface readBytes(const std::string& bytes) {
     Surface picture;
     MemorySource source(kPath, viewOf(bytes));
-    readBitmap(source, picture);
+    WholePicture wish;
+    readBitmap(source, wish, picture);
     return picture;
 }
 

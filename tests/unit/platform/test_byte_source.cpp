@@ -119,18 +119,6 @@ TEST(ByteStream, gives_the_bytes_in_order_however_they_are_asked_for) {
     EXPECT_THROW(stream.fill(next), PictureFailure);
 }
 
-TEST(PictureSize, a_sized_picture_is_black) {
-    Surface picture;
-    sizePicture("p", 3, 2, picture);
-    EXPECT_EQ(picture.width(), 3);
-    EXPECT_EQ(picture.height(), 2);
-    for (int y = 0; y < 2; ++y) {
-        for (int x = 0; x < 3; ++x) {
-            EXPECT_EQ(picture.row(y)[x], 0xFF000000U);
-        }
-    }
-}
-
 }  // namespace
 
 }  // namespace ombrelia
