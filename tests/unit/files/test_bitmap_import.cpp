@@ -13,6 +13,8 @@
 #include "files/bitmap_import.h"
 #include "files/import_test.h"
 #include "platform/bitmap_bytes.h"
+#include "platform/failure.h"
+#include "platform/picture_sink.h"
 #include "platform/window_life.h"
 #include "views/map2d/update_map_view.h"
 
@@ -259,6 +261,82 @@ TEST_F(BitmapImport, a_stop_ends_the_closing_refresh_but_not_the_import) {
     EXPECT_EQ(StopFlag, 0);
     EXPECT_EQ(ProgressState, 2);
     EXPECT_TRUE(Form1.MapView.Enabled);
+}
+
+// Reads as long as the wish goes on, at most so many frames.
+class SlowLoader : public PictureLoader {
+  public:
+    explicit SlowLoader(int frames) : frames_(frames) {}
+    bool loadPicture(const std::string& path, PictureWish& wish, Surface& picture) override {
+        for (int i = 0; i < frames_; ++i) {
+            if (!wish.goesOn()) {
+                return false;
+            }
+        }
+        PictureSink sink(path, 65, 65, wish, picture);
+        sink.fill(0xFF090909U);
+        return true;
+    }
+
+  private:
+    int frames_;
+};
+
+TEST_F(BitmapImport, a_long_reading_shows_its_panel_and_locks_the_tools) {
+    SlowLoader loader(3);
+    services().pictures = &loader;
+    platform.Files["slow"] = true;
+    int yields = 0;
+    platform.OnYield = [&] {
+        if (++yields <= 3) {
+            EXPECT_EQ(Form1.WorkWhat.Caption, "Loading Image");
+            EXPECT_EQ(ProgressState, 1);
+            EXPECT_EQ(ProgressDone, 0);
+            EXPECT_FALSE(Form1.MapView.Enabled);
+        }
+    };
+    import("slow");
+    EXPECT_GT(yields, 3);
+    EXPECT_EQ(HeightMap(3, 3), 9);
+    EXPECT_EQ(ProgressState, 2);
+    EXPECT_TRUE(Form1.MapView.Enabled);
+}
+
+TEST_F(BitmapImport, a_stop_while_the_file_is_read_changes_nothing) {
+    SlowLoader loader(1000);
+    services().pictures = &loader;
+    platform.Files["slow"] = true;
+    const Desk before;
+    int yields = 0;
+    platform.OnYield = [&] {
+        if (++yields == 5) {
+            run(button::kStop);
+        }
+    };
+    import("slow");
+    EXPECT_EQ(yields, 5);
+    deliver(Form1.Timer1, Event::Timer);
+    before.expectSame();
+    EXPECT_EQ(StopFlag, 0);
+    EXPECT_EQ(ProgressState, 2);
+    EXPECT_TRUE(platform.Failures.empty());
+}
+
+TEST_F(BitmapImport, closing_while_the_file_is_read_gives_it_up_first) {
+    SlowLoader loader(1000);
+    services().pictures = &loader;
+    platform.Files["slow"] = true;
+    platform.MessageAnswers = {kAnswerYes};
+    int yields = 0;
+    platform.OnYield = [&] {
+        if (++yields == 5) {
+            run(button::kExit);
+            EXPECT_FALSE(platform.HasEnded);
+        }
+    };
+    EXPECT_THROW(import("slow"), ProcessEnd);
+    EXPECT_EQ(yields, 5);
+    EXPECT_TRUE(platform.HasEnded);
 }
 
 TEST_F(BitmapImport, the_menus_command_looks_from_above_first) {

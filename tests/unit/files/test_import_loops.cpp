@@ -1,6 +1,7 @@
 // Both loops of the import against a second plain way, on pictures of chance.
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 #include "core/progress.h"
@@ -173,6 +174,18 @@ TEST_F(ImportLoops, sizes_around_each_bound_agree_with_the_plain_way) {
             compare(chancePicture(width, height, chance));
             ASSERT_FALSE(HasFailure());
         }
+    }
+}
+
+// Of these only the pixels that are read are kept.
+TEST_F(ImportLoops, large_pictures_agree_with_the_plain_way) {
+    constexpr std::pair<int, int> kSizes[] = {{2600, 2311}, {16001, 263}, {65, 65000}, {66, 64000},
+                                              {70000, 60},  {257, 16400}, {2049, 2048}};
+    Chance chance(11);
+    for (const auto& [width, height] : kSizes) {
+        SCOPED_TRACE(testing::Message() << width << "x" << height);
+        compare(chancePicture(width, height, chance));
+        ASSERT_FALSE(HasFailure());
     }
 }
 
