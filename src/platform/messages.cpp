@@ -36,6 +36,10 @@ std::string pictureTooLarge(long long width, long long height) {
            " pixels, which is more than can be held";
 }
 
+std::string damagedPicture(const std::string& detail) {
+    return "It is damaged (" + detail + ")";
+}
+
 std::string settingsNotRead(const std::string& path, const std::string& reason) {
     return "Your preferences could not be read from \"" + path + "\": " + reason +
            ". The file stays as it is, and nothing is saved in it this time; the map is unharmed.";

@@ -28,6 +28,9 @@ inline constexpr const char* kStoreIsHeld = "Another program holds the file";
 inline constexpr const char* kNoMemory = "There is not enough memory for it";
 std::string pictureTooLarge(long long width, long long height);
 
+// detail: the words of the library that reads this kind.
+std::string damagedPicture(const std::string& detail);
+
 // The settings stay as they are on the disk.
 std::string settingsNotRead(const std::string& path, const std::string& reason);
 std::string settingsNotSaved(const std::string& path, const std::string& reason);

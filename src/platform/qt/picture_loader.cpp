@@ -3,6 +3,7 @@
 #include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
+#include "platform/qt/png_reader.h"
 #include "platform/qt/toolkit_picture.h"
 
 namespace ombrelia {
@@ -16,6 +17,8 @@ bool QtPictureLoader::loadPicture(const std::string& path, PictureWish& wish, Su
 void readPicture(ByteSource& source, PictureWish& wish, Surface& picture) {
     if (isBitmap(source)) {
         readBitmap(source, wish, picture);
+    } else if (isPng(source)) {
+        readPng(source, wish, picture);
     } else {
         readToolkitPicture(source, wish, picture);
     }

@@ -1,0 +1,137 @@
+// Our readers of rows against the toolkit's of whole pictures, pixel by pixel.
+#include <QBuffer>
+#include <QImageReader>
+#include <gtest/gtest.h>
+#include <png.h>
+#include <random>
+
+#include "picture_files.h"
+
+namespace ombrelia {
+
+namespace {
+
+QImage chanceImage(QImage::Format format, int width, int height) {
+    std::minstd_rand draws(static_cast<unsigned>(format * 1000 + width));
+    QImage image(width, height, format);
+    image.fill(0);
+    if (format == QImage::Format_Indexed8) {
+        for (int i = 0; i < 256; ++i) {
+            image.setColor(i, qRgba(i, 255 - i, i * 7 % 256, i % 5 == 0 ? i : 255));
+        }
+    }
+    for (int y = 0; y < height; ++y) {
+        uchar* row = image.scanLine(y);
+        for (qsizetype i = 0; i < (qsizetype{width} * image.depth() + 7) / 8; ++i) {
+            row[i] = static_cast<uchar>(draws() >> 8U);
+        }
+    }
+    return image;
+}
+
+// As the toolkit reads it, over black; of sixteen bits of grey the upper eight.
+QImage toolkitReads(const std::string& bytes) {
+    QByteArray copy = QByteArray::fromStdString(bytes);
+    QBuffer buffer(&copy);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    QImage image = reader.read();
+    EXPECT_FALSE(image.isNull()) << reader.errorString().toStdString();
+    if (image.format() == QImage::Format_Grayscale16) {
+        QImage grey(image.size(), QImage::Format_RGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            const auto* from = reinterpret_cast<const quint16*>(image.constScanLine(y));
+            for (int x = 0; x < image.width(); ++x) {
+                grey.setPixel(x, y, qRgb(from[x] >> 8, from[x] >> 8, from[x] >> 8));
+            }
+        }
+        return grey;
+    }
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+void expectAsTheToolkit(const std::string& bytes) {
+    const QImage image = toolkitReads(bytes);
+    const Surface picture = loadBytes(bytes);
+    ASSERT_EQ(picture.width(), image.width());
+    ASSERT_EQ(picture.height(), image.height());
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            ASSERT_EQ(picture.row(y)[x], row[x] | 0xFF000000U) << x << "," << y;
+        }
+    }
+}
+
+// A PNG as the library writes it, of bytes by chance.
+std::string pngOf(int colorType, int depth, int width, int height, int interlace) {
+    std::string bytes;
+    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_infop info = png_create_info_struct(png);
+    png_set_write_fn(
+        png, &bytes,
+        [](png_structp writer, png_bytep from, std::size_t count) {
+            static_cast<std::string*>(png_get_io_ptr(writer))
+                ->append(reinterpret_cast<char*>(from), count);
+        },
+        nullptr);
+    png_set_IHDR(png, info, static_cast<png_uint_32>(width), static_cast<png_uint_32>(height),
+                 depth, colorType, interlace, PNG_COMPRESSION_TYPE_DEFAULT,
+                 PNG_FILTER_TYPE_DEFAULT);
+    png_color palette[256];
+    for (int i = 0; i < 256; ++i) {
+        palette[i] = {static_cast<png_byte>(i), static_cast<png_byte>(255 - i),
+                      static_cast<png_byte>(i * 5)};
+    }
+    if (colorType == PNG_COLOR_TYPE_PALETTE) {
+        png_set_PLTE(png, info, palette, 1 << depth);
+    }
+    png_write_info(png, info);
+    std::minstd_rand draws(static_cast<unsigned>(depth * 100 + width));
+    std::vector<std::vector<png_byte>> rows(static_cast<std::size_t>(height));
+    std::vector<png_bytep> begins;
+    for (auto& row : rows) {
+        row.resize(png_get_rowbytes(png, info));
+        for (png_byte& byte : row) {
+            byte = static_cast<png_byte>(draws() >> 8U);
+        }
+        begins.push_back(row.data());
+    }
+    png_write_image(png, begins.data());
+    png_write_end(png, info);
+    png_destroy_write_struct(&png, &info);
+    return bytes;
+}
+
+TEST(RowReaders, each_format_of_a_png_is_as_the_toolkit_has_it) {
+    for (const QImage::Format format :
+         {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
+          QImage::Format_Grayscale16, QImage::Format_RGB888, QImage::Format_ARGB32,
+          QImage::Format_RGBX64, QImage::Format_RGBA64}) {
+        SCOPED_TRACE(format);
+        expectAsTheToolkit(fileOf(chanceImage(format, 131, 57), "png"));
+    }
+}
+
+TEST(RowReaders, each_depth_and_kind_of_a_png_is_as_the_toolkit_has_it) {
+    const std::pair<int, std::vector<int>> rows[] = {{PNG_COLOR_TYPE_GRAY, {1, 2, 4, 8, 16}},
+                                                     {PNG_COLOR_TYPE_PALETTE, {1, 2, 4, 8}},
+                                                     {PNG_COLOR_TYPE_RGB, {8, 16}},
+                                                     {PNG_COLOR_TYPE_GRAY_ALPHA, {8, 16}},
+                                                     {PNG_COLOR_TYPE_RGB_ALPHA, {8, 16}}};
+    for (const auto& [type, depths] : rows) {
+        for (const int depth : depths) {
+            for (const int interlace : {PNG_INTERLACE_NONE, PNG_INTERLACE_ADAM7}) {
+                for (const auto& [width, height] : {std::pair{67, 41}, {1, 1}, {3, 9}, {5, 2}}) {
+                    SCOPED_TRACE(testing::Message() << "type " << type << ", " << depth << " bits, "
+                                                    << width << "x" << height << ", " << interlace);
+                    expectAsTheToolkit(pngOf(type, depth, width, height, interlace));
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace ombrelia
