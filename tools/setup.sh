@@ -1,6 +1,6 @@
 # Shared by the commands and the tools: packages, the build, and how the tests are run.
 BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-image-formats-plugins libgl-dev
-    librsvg2-bin libpng-dev libcanberra-dev libcanberra-pulse fonts-dejavu-core)
+    librsvg2-bin libpng-dev libjpeg-dev libcanberra-dev libcanberra-pulse fonts-dejavu-core)
 SCREEN_PACKAGES=(xvfb openbox xdotool libxtst6 x11-utils imagemagick)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxtst-dev valgrind netpbm python3 git
     dbus at-spi2-core python3-gi gir1.2-atspi-2.0

@@ -1,7 +1,11 @@
 // Our readers of rows against the toolkit's of whole pictures, pixel by pixel.
 #include <QBuffer>
 #include <QImageReader>
+#include <QImageWriter>
+#include <csetjmp>
+#include <cstdio>  // before jpeglib.h, which needs it
 #include <gtest/gtest.h>
+#include <jpeglib.h>
 #include <png.h>
 #include <random>
 
@@ -103,6 +107,36 @@ std::string pngOf(int colorType, int depth, int width, int height, int interlace
     return bytes;
 }
 
+// A JPEG of inks, which the toolkit does not write.
+std::string printedJpeg(int width, int height) {
+    jpeg_compress_struct jpeg{};
+    jpeg_error_mgr errors{};
+    jpeg.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&jpeg);
+    unsigned char* bytes = nullptr;
+    unsigned long count = 0;
+    jpeg_mem_dest(&jpeg, &bytes, &count);
+    jpeg.image_width = static_cast<JDIMENSION>(width);
+    jpeg.image_height = static_cast<JDIMENSION>(height);
+    jpeg.input_components = 4;
+    jpeg.in_color_space = JCS_CMYK;
+    jpeg_set_defaults(&jpeg);
+    jpeg_start_compress(&jpeg, TRUE);
+    for (int y = 0; y < height; ++y) {
+        std::vector<JSAMPLE> row(static_cast<std::size_t>(4 * width));
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            row[i] = static_cast<JSAMPLE>(i * 3 + static_cast<std::size_t>(y) * 7);
+        }
+        JSAMPROW rows[] = {row.data()};
+        jpeg_write_scanlines(&jpeg, rows, 1);
+    }
+    jpeg_finish_compress(&jpeg);
+    jpeg_destroy_compress(&jpeg);
+    std::string file(reinterpret_cast<char*>(bytes), count);
+    std::free(bytes);
+    return file;
+}
+
 TEST(RowReaders, each_format_of_a_png_is_as_the_toolkit_has_it) {
     for (const QImage::Format format :
          {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
@@ -129,6 +163,39 @@ TEST(RowReaders, each_depth_and_kind_of_a_png_is_as_the_toolkit_has_it) {
                 }
             }
         }
+    }
+}
+
+TEST(RowReaders, each_kind_of_jpeg_is_as_the_toolkit_has_it) {
+    for (const bool isProgressive : {false, true}) {
+        for (const int quality : {30, 75, 100}) {
+            for (const bool isGrey : {false, true}) {
+                const QImage image = colorful(133, 71);
+                QBuffer buffer;
+                buffer.open(QIODevice::WriteOnly);
+                QImageWriter writer(&buffer, "jpeg");
+                writer.setQuality(quality);
+                writer.setProgressiveScanWrite(isProgressive);
+                ASSERT_TRUE(writer.write(isGrey ? image.convertToFormat(QImage::Format_Grayscale8)
+                                                : image));
+                SCOPED_TRACE(testing::Message() << quality << (isGrey ? " grey" : " colours")
+                                                << (isProgressive ? " progressive" : ""));
+                expectAsTheToolkit(buffer.data().toStdString());
+            }
+        }
+    }
+    expectAsTheToolkit(printedJpeg(90, 40));
+}
+
+TEST(RowReaders, each_way_to_hold_a_camera_is_as_the_toolkit_has_it) {
+    for (int turn = 0; turn < 8; ++turn) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, "jpeg");
+        writer.setTransformation(QImageIOHandler::Transformations(turn));
+        ASSERT_TRUE(writer.write(colorful(96, 64)));
+        SCOPED_TRACE(turn);
+        expectAsTheToolkit(buffer.data().toStdString());
     }
 }
 

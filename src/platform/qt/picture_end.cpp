@@ -23,50 +23,6 @@ bool skip(QIODevice& device, qint64 bytes) {
     return bytes >= 0 && place <= device.size() && device.seek(place);
 }
 
-constexpr std::uint8_t kMark = 0xFF;
-constexpr std::uint8_t kStartOfPixels = 0xDA;
-
-// Goes behind the segments up to the first pixels; these may hold a whole smaller picture.
-bool skipToJpegPixels(QIODevice& device) {
-    std::array<std::uint8_t, 2> mark{};
-    std::array<std::uint8_t, 2> length{};
-    while (take(device, mark) && mark[0] == kMark) {
-        if (mark[1] == kMark) {  // filled up in front of a mark
-            device.seek(device.pos() - 1);
-            continue;
-        }
-        if (mark[1] == kStartOfPixels) {
-            return true;
-        }
-        if (!take(device, length) || !skip(device, length[0] * 256 + length[1] - 2)) {
-            return false;
-        }
-    }
-    return false;
-}
-
-// Whether these bytes stand somewhere from the device's place on.
-bool find(QIODevice& device, QByteArrayView wanted) {
-    constexpr qint64 kChunkBytes = 65536;
-    QByteArray text;
-    while (true) {
-        const QByteArray chunk = device.read(kChunkBytes);
-        if (chunk.isEmpty()) {
-            return false;
-        }
-        text = text.right(wanted.size() - 1) + chunk;
-        if (text.contains(wanted)) {
-            return true;
-        }
-    }
-}
-
-bool isJpegComplete(QIODevice& device) {
-    // No pixels look like the mark of the end.
-    constexpr char kEnd[] = {'\xFF', '\xD9'};
-    return skip(device, 2) && skipToJpegPixels(device) && find(device, QByteArrayView(kEnd, 2));
-}
-
 // Chunks of a length each, up to one without a length.
 bool skipGifChunks(QIODevice& device) {
     std::array<std::uint8_t, 1> length{};
@@ -127,10 +83,7 @@ struct EndRow {
     const char* format;
     bool (*isComplete)(QIODevice& device);
 };
-constexpr EndRow kEnds[] = {{"jpeg", isJpegComplete},
-                            {"jpg", isJpegComplete},
-                            {"gif", isGifComplete},
-                            {"tga", isTgaComplete}};
+constexpr EndRow kEnds[] = {{"gif", isGifComplete}, {"tga", isTgaComplete}};
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
+#include "platform/qt/jpeg_reader.h"
 #include "platform/qt/png_reader.h"
 #include "platform/qt/toolkit_picture.h"
 
@@ -19,6 +20,8 @@ void readPicture(ByteSource& source, PictureWish& wish, Surface& picture) {
         readBitmap(source, wish, picture);
     } else if (isPng(source)) {
         readPng(source, wish, picture);
+    } else if (isJpeg(source)) {
+        readJpeg(source, wish, picture);
     } else {
         readToolkitPicture(source, wish, picture);
     }
