@@ -96,7 +96,7 @@ void forgetPeak() {
 
 void importPicture(benchmark::State& state, const PictureFile& file) {
     HeadlessPlatform& platform = benchDesk(kLargeSize);
-    QtPictureLoader loader;
+    QtPictureLoader loader(OMBRELIA_EDITOR);
     services().pictures = &loader;
     double above = 0;
     for (auto _ : state) {

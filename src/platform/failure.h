@@ -44,6 +44,8 @@ class PictureFailure : public Failure {
   public:
     // reason: a clause without a full stop.
     PictureFailure(const std::string& path, const std::string& reason);
+    // The whole sentence, as another process has worded it.
+    explicit PictureFailure(const std::string& sentence) : Failure(sentence) {}
 };
 
 // Thrown by endProcess() so that nothing behind it runs; reaches the event loop, which ends.

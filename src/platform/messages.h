@@ -26,6 +26,8 @@ inline constexpr const char* kUnknownCompression = "Its kind of compression cann
 inline constexpr const char* kNoSettingsAreSoLarge = "It is larger than preferences can be";
 inline constexpr const char* kStoreIsHeld = "Another program holds the file";
 inline constexpr const char* kNoMemory = "There is not enough memory for it";
+inline constexpr const char* kTakesTooLong = "It takes too long to read";
+inline constexpr const char* kReaderFailed = "Its contents cannot be made sense of";
 std::string pictureTooLarge(long long width, long long height);
 
 // detail: the words of the library that reads this kind.

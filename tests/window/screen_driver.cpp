@@ -91,20 +91,25 @@ void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yiel
     Ear ear(driver.heard_);
     std::thread person;
     resetProcess();
-    const int status = runProgram(
-        1, arguments,
-        {[&] {
-             qApp->installNativeEventFilter(&ear);
-             startEditor();
-             person = std::thread([&] {
-                 story(driver);
-                 if (!driver.hasEnded_) {
-                     QMetaObject::invokeMethod(
-                         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
-                 }
-             });
-         },
-         repairAfterFailure, Form1.Width + HelpFrm.Width, Form1.Height, yieldMilliseconds});
+    const int status =
+        runProgram(1, arguments,
+                   {[&] {
+                        qApp->installNativeEventFilter(&ear);
+                        startEditor();
+                        person = std::thread([&] {
+                            story(driver);
+                            if (!driver.hasEnded_) {
+                                QMetaObject::invokeMethod(
+                                    qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+                            }
+                        });
+                    },
+                    repairAfterFailure,
+                    Form1.Width + HelpFrm.Width,
+                    Form1.Height,
+                    yieldMilliseconds,
+                    {},
+                    OMBRELIA_EDITOR});
     EXPECT_EQ(status, 0);
     driver.hasEnded_ = true;
     person.join();

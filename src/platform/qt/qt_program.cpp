@@ -8,6 +8,7 @@
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canberra_sound.h"
 #include "platform/qt/picture_loader.h"
+#include "platform/qt/picture_process.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
 
@@ -34,6 +35,9 @@ void choosePlatform() {
 }  // namespace
 
 int runProgram(int argc, char** argv, const ProgramParts& parts) {
+    if (const auto status = runPictureReader(argc, argv)) {
+        return *status;
+    }
     if (!hasDisplay()) {
         std::fputs("Ombrelia Terrain Editor needs a display, and there is none.\n", stderr);
         return 1;
@@ -50,7 +54,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     DiskFiles files;
     QtClock clock;
     GeneratorRandom random;
-    QtPictureLoader pictures;
+    QtPictureLoader pictures(parts.pictureReader);
     QtFailureReport failures(dialogs, parts.repair, kProgramName);
     CanberraSound sound;
     services() = {&dialogs, &settings, &files,    &clock, &random,

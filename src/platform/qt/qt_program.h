@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 namespace ombrelia {
 
@@ -12,10 +13,12 @@ struct ProgramParts {
     double widthUnits;             // what the scale is chosen for
     double heightUnits;
     int yieldMilliseconds = 0;  // how long each yield takes at least; above 0 to watch a run slowly
-    std::function<void()> onFirstPaint = {};  // once the first window has been painted
+    std::function<void()> onFirstPaint = {};       // once the first window has been painted
+    std::string pictureReader = "/proc/self/exe";  // a program that begins with runProgram
 };
 
-// Runs the event loop until the process is to end; the exit status of the process.
+// Reads a picture for another process, if that started this one. Else runs the event loop until the
+// process is to end; the exit status of the process.
 int runProgram(int argc, char** argv, const ProgramParts& parts);
 
 }  // namespace ombrelia

@@ -21,7 +21,7 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kMostMegabytes = 1024;
+constexpr int kMostMegabytes = 96;  // the readers hold a picture up to twice
 
 // A file as the toolkit reads it. What the disk refuses is an end to the toolkit.
 class SourceDevice : public QIODevice {
