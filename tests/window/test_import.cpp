@@ -8,6 +8,7 @@
 
 #include "core/objects.h"
 #include "core/progress.h"
+#include "slow_picture.h"
 #include "stories.h"
 
 namespace ombrelia {
@@ -123,6 +124,34 @@ TEST(Import, a_damaged_picture_is_told_and_the_editor_goes_on) {
         });
         driver.click(Form1.NTool(button::kPencil + kOverlayOffset));
         EXPECT_TRUE(driver.waitFor([] { return OptionStates(button::kPencil).State == kOn; }));
+    });
+}
+
+TEST(Import, the_red_light_gives_up_a_picture_that_takes_long) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("slow.jpg"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromStdString(slowPicture()));
+    file.close();
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        driver.inProgram([] { HeightMap(7, 7) = 99; });
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kImport);
+        answerImport(driver, path);
+        ASSERT_TRUE(driver.waitFor([] { return Form1.ProgressFrame.Visible; }));
+        driver.inProgram([] {
+            EXPECT_EQ(Form1.WorkWhat.Caption, "Loading Image");
+            EXPECT_FALSE(Form1.MapView.Enabled);
+        });
+        driver.click(Form1.NTool(button::kStop + kOverlayOffset));
+        ASSERT_TRUE(driver.waitFor([] { return Form1.MapView.Enabled && ProgressState == 2; }));
+        driver.inProgram([] {
+            EXPECT_EQ(MapSize, 65);
+            EXPECT_EQ(HeightMap(7, 7), 99);
+            EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        });
     });
 }
 
