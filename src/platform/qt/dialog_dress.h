@@ -1,6 +1,7 @@
 // The look of the toolkit's own dialogs, so that they belong to the skin's windows.
 #pragma once
 
+class QDialog;
 class QMessageBox;
 
 namespace ombrelia {
@@ -10,6 +11,10 @@ class Skin;
 // Colours and letters of every dialog that the toolkit draws itself; the desktop's own stay as they
 // are. scale: device pixels to a unit. Cheap after the first call.
 void dressApplication(double scale);
+
+// Any other dialog without a system frame, in the same colours, with its title in bold at its top, by
+// which it moves.
+void dressDialog(QDialog& dialog, double scale);
 
 // A message box without a system frame, in the skin's colours; with the light that says stop as
 // icon, or with none.
