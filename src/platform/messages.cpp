@@ -40,6 +40,19 @@ std::string damagedPicture(const std::string& detail) {
     return "It is damaged (" + detail + ")";
 }
 
+std::string nothingOfThisName(const std::string& path) {
+    return "There is nothing of the name \"" + path + "\".";
+}
+
+std::string neverReplaced(const std::string& path) {
+    return "\"" + path +
+           "\" holds something already, and that is never replaced. Please choose another name.";
+}
+
+std::string useEmptyFile(const std::string& path) {
+    return "\"" + path + "\" is there already, and empty. Shall the map be saved in it?";
+}
+
 std::string settingsNotRead(const std::string& path, const std::string& reason) {
     return "Your preferences could not be read from \"" + path + "\": " + reason +
            ". The file stays as it is, and nothing is saved in it this time; the map is unharmed.";

@@ -33,6 +33,11 @@ std::string pictureTooLarge(long long width, long long height);
 // detail: the words of the library that reads this kind.
 std::string damagedPicture(const std::string& detail);
 
+// What the dialogs that name a file say.
+std::string nothingOfThisName(const std::string& path);
+std::string neverReplaced(const std::string& path);
+std::string useEmptyFile(const std::string& path);
+
 // The settings stay as they are on the disk.
 std::string settingsNotRead(const std::string& path, const std::string& reason);
 std::string settingsNotSaved(const std::string& path, const std::string& reason);

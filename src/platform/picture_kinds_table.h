@@ -6,14 +6,26 @@ namespace ombrelia {
 // A kind is known by a file's content, whatever its name.
 struct PictureKind {
     const char* name;          // as the guide has it
+    const char* suffixes;      // of its files, a blank between them
     const char* toolkitNames;  // a blank between them; none for bitmaps, which have our own reader
 };
 
 // The same on every machine, whatever plug-ins the toolkit has. No vectors, no films.
 inline constexpr PictureKind kPictureKinds[] = {
-    {"BMP", ""},      {"PNG", "png"}, {"JPEG", "jpeg jpg"}, {"GIF", "gif"},   {"TIFF", "tiff tif"},
-    {"WebP", "webp"}, {"TGA", "tga"}, {"PBM", "pbm"},       {"PGM", "pgm"},   {"PPM", "ppm"},
-    {"XPM", "xpm"},   {"ICO", "ico"}, {"CUR", "cur"},       {"WBMP", "wbmp"},
+    {"BMP", "bmp", ""},
+    {"PNG", "png", "png"},
+    {"JPEG", "jpg jpeg", "jpeg jpg"},
+    {"GIF", "gif", "gif"},
+    {"TIFF", "tif tiff", "tiff tif"},
+    {"WebP", "webp", "webp"},
+    {"TGA", "tga", "tga"},
+    {"PBM", "pbm", "pbm"},
+    {"PGM", "pgm", "pgm"},
+    {"PPM", "ppm", "ppm"},
+    {"XPM", "xpm", "xpm"},
+    {"ICO", "ico", "ico"},
+    {"CUR", "cur", "cur"},
+    {"WBMP", "wbmp", "wbmp"},
 };
 
 }  // namespace ombrelia

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_program.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <cstdio>
 
 #include "platform/dispatch.h"
@@ -9,6 +10,7 @@
 #include "platform/qt/canberra_sound.h"
 #include "platform/qt/picture_loader.h"
 #include "platform/qt/picture_process.h"
+#include "platform/qt/plain_texts.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
 
@@ -47,6 +49,10 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
     QApplication::setApplicationName(QStringLiteral("ombrelia-terrain-editor"));
     QApplication::setQuitOnLastWindowClosed(false);
 
+    // The toolkit keeps the state of its dialogs in files of its own; ours is in the settings.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+    PlainTexts plainTexts;
+    application.installEventFilter(&plainTexts);
     installAccessibility();
     QtDesktop desktop;
     QtDialogs dialogs(desktop);

@@ -1,7 +1,7 @@
 // The small services over the toolkit: dialogs, settings, clock, reports of failures.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <functional>
 
 #include "platform/ini_store.h"
@@ -11,7 +11,9 @@ namespace ombrelia {
 
 class QtDesktop;
 
-// The desktop's own dialogs. Files: the last folder is remembered within a run.
+struct FilePurpose;
+
+// The desktop's own dialogs, or the toolkit's. Folders and sizes are kept in the settings.
 class QtDialogs : public Dialogs {
   public:
     explicit QtDialogs(QtDesktop& desktop) : desktop_(desktop) {}
@@ -22,10 +24,10 @@ class QtDialogs : public Dialogs {
     int message(const std::string& text, int style, const std::string& title) override;
 
   private:
-    std::string remembered(const QString& path);
+    std::string askFile(const std::string& title, const QStringList& filters,
+                        const FilePurpose& purpose);
 
     QtDesktop& desktop_;
-    QString folder_;
 };
 
 // The user's settings file; what could not be saved is told once in a run.
