@@ -1,0 +1,236 @@
+// What the dialogs show, take and remember.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStandardPaths>
+#include <QStyle>
+#include <QTemporaryDir>
+#include <QToolTip>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+#include "core/objects.h"
+#include "stories.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr const char* kSave = "Save Terrain";
+constexpr const char* kImport = "Select Image to Import";
+
+void openDialog(ScreenDriver& driver, int number, const char* title) {
+    pressWide(driver, number);
+    ASSERT_TRUE(driver.waitForDialog(title));
+}
+
+template <typename Part>
+Part* partOf(const char* name) {
+    return QApplication::activeModalWidget()->findChild<Part*>(QString::fromLatin1(name));
+}
+
+void closeDialog(ScreenDriver& driver) {
+    driver.key("Escape");
+    ASSERT_TRUE(driver.waitFor([] { return QApplication::activeModalWidget() == nullptr; }));
+}
+
+void write(const QString& path, const char* text) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+// Names the file; the dialog answers it with a box of this text and stays.
+void expectSentBack(ScreenDriver& driver, const QString& path, const char* text) {
+    driver.type(path.toStdString());
+    QWidget* dialog = nullptr;
+    driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
+    driver.key("Return");
+    ASSERT_TRUE(driver.waitFor([&] { return QApplication::activeModalWidget() != dialog; }));
+    driver.rest(300);
+    EXPECT_NE(driver.dialogText().find(text), std::string::npos) << driver.dialogText();
+    driver.key("Return");
+    ASSERT_TRUE(driver.waitFor([&] { return QApplication::activeModalWidget() == dialog; }));
+    driver.rest(300);
+}
+
+// Every label of the dialog in front shows its text as it stands.
+void expectPlain(const char* title) {
+    const QWidget* dialog = QApplication::activeModalWidget();
+    const auto labels = dialog->findChildren<QLabel*>();
+    EXPECT_FALSE(labels.isEmpty()) << title;
+    for (const QLabel* label : labels) {
+        EXPECT_TRUE(label->textFormat() == Qt::PlainText || !label->isVisible())
+            << title << ": " << label->text().toStdString();
+    }
+}
+
+}  // namespace
+
+TEST(FileDialogs, what_holds_something_is_said_to_be_never_replaced) {
+    const QTemporaryDir folder;
+    const QString taken = folder.filePath(QStringLiteral("taken.bmp"));
+    const QString other = folder.filePath(QStringLiteral("other.bmp"));
+    write(taken, "something");
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kSave, kSave);
+        expectSentBack(driver, taken, "never replaced");
+        driver.inProgram([&] { EXPECT_EQ(partOf<QLineEdit>("fileNameEdit")->text(), taken); });
+        // The name is selected: the next one takes its place.
+        driver.type(other.toStdString());
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([&] { return QFileInfo(other).size() == 5498; }));
+        EXPECT_EQ(QFileInfo(taken).size(), 9);
+    });
+}
+
+TEST(FileDialogs, an_empty_file_is_used_after_a_question) {
+    const QTemporaryDir folder;
+    const QString empty = folder.filePath(QStringLiteral("empty.bmp"));
+    write(empty, "");
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kSave, kSave);
+        expectSentBack(driver, empty, "empty");  // No is the default
+        driver.key("Return");
+        ASSERT_TRUE(driver.waitForDialog(kSave));
+        driver.key("alt+y");
+        EXPECT_TRUE(driver.waitFor([&] { return QFileInfo(empty).size() == 5498; }));
+    });
+}
+
+TEST(FileDialogs, a_name_is_taken_as_it_is_typed) {
+    const QTemporaryDir folder;
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        for (const char* name : {"my \"best\" map.bmp", "no suffix", "ends in .bmp.bmp"}) {
+            const QString path = folder.filePath(QString::fromLatin1(name));
+            pressWide(driver, button::kSave);
+            ASSERT_TRUE(driver.nameFile(kSave, path.toStdString()));
+            EXPECT_TRUE(driver.waitFor([&] { return QFileInfo(path).size() == 5498; })) << name;
+        }
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 3);
+    });
+}
+
+TEST(FileDialogs, each_begins_where_it_was_last_and_keeps_its_size) {
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("p.bmp"));
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kSave, kSave);
+        driver.inProgram([] { QApplication::activeModalWidget()->resize(900, 700); });
+        ASSERT_TRUE(driver.nameFile(kSave, picture.toStdString()));
+        ASSERT_TRUE(driver.waitFor([&] { return QFileInfo::exists(picture); }));
+    });
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kSave, kSave);
+        driver.inProgram([&] {
+            auto* dialog = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
+            EXPECT_EQ(dialog->directory(), QDir(folder.path()));
+            EXPECT_NEAR(dialog->width(), 900, 4);
+            EXPECT_NEAR(dialog->height(), 700, 4);
+        });
+        closeDialog(driver);
+        openDialog(driver, button::kImport, kImport);
+        driver.inProgram([&] {
+            auto* dialog = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
+            EXPECT_NE(dialog->directory(), QDir(folder.path()));
+        });
+        closeDialog(driver);
+        // Nothing in the toolkit's own files.
+        const QDir settings(
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+        EXPECT_FALSE(settings.exists(QStringLiteral("QtProject.conf")));
+    });
+}
+
+TEST(FileDialogs, all_pictures_come_second) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kImport, kImport);
+        driver.inProgram([] {
+            const auto* kinds = partOf<QComboBox>("fileTypeCombo");
+            EXPECT_EQ(kinds->itemText(0), "Image Files (*.bmp)");
+            EXPECT_TRUE(kinds->itemText(1).startsWith("All Pictures (*.bmp *.png *.jpg *.jpeg"));
+            EXPECT_EQ(kinds->itemText(2), "All Files (*)");
+            EXPECT_EQ(kinds->count(), 3);
+        });
+        closeDialog(driver);
+    });
+}
+
+TEST(FileDialogs, everything_can_be_read) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kSave, kSave);
+        driver.inProgram([] {
+            const QWidget* dialog = QApplication::activeModalWidget();
+            constexpr double kScale = 1.5;  // of this screen
+            EXPECT_GE(dialog->width(), 420 * kScale);
+            EXPECT_GE(dialog->height(), 280 * kScale);
+            EXPECT_EQ(partOf<QLineEdit>("fileNameEdit")->placeholderText(), "name.bmp");
+            const QHeaderView* header = partOf<QTreeView>("treeView")->header();
+            EXPECT_GE(header->sectionSize(0), 150 * kScale);
+            EXPECT_GE(header->sectionSize(3), header->sectionSizeHint(3));
+            for (const auto* button : dialog->findChildren<QAbstractButton*>()) {
+                EXPECT_TRUE(
+                    button->text().isEmpty() || button->icon().isNull() ||
+                    button->style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons) == 0)
+                    << button->text().toStdString();
+            }
+        });
+        closeDialog(driver);
+    });
+}
+
+TEST(PlainTexts, no_name_from_outside_is_markup) {
+    const QTemporaryDir folder;
+    const QString bold = folder.filePath(QStringLiteral("<b>bold"));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("<b>bold")));
+    const QString junk = bold + QStringLiteral("/<a href=https:nowhere.example>click.png");
+    write(junk, "junk");
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kImport);
+        ASSERT_TRUE(driver.nameFile(kImport, junk.toStdString()));
+        ASSERT_TRUE(driver.waitForDialog("Ombrelia Terrain Editor"));
+        driver.inProgram([] { expectPlain("a failure"); });
+        EXPECT_NE(driver.dialogText().find("<a href"), std::string::npos);
+        closeDialog(driver);
+
+        openDialog(driver, button::kImport, kImport);
+        driver.inProgram([&] {
+            expectPlain(kImport);
+            auto* list = partOf<QTreeView>("treeView");
+            const QPoint place = list->viewport()->rect().center();
+            QHelpEvent wish(QEvent::ToolTip, place, list->viewport()->mapToGlobal(place));
+            QApplication::sendEvent(list->viewport(), &wish);
+            EXPECT_FALSE(QToolTip::isVisible());
+        });
+        closeDialog(driver);
+        openDialog(driver, button::kSave, kSave);
+        driver.inProgram([] { expectPlain(kSave); });
+        closeDialog(driver);
+    });
+}
+
+}  // namespace ombrelia
