@@ -20,6 +20,20 @@ TEST(Messages, every_failure_says_what_and_why) {
                  "it was left.");
 }
 
+TEST(Messages, a_reader_may_have_worded_its_failure_itself) {
+    EXPECT_STREQ(PictureFailure("The picture is gone.").what(), "The picture is gone.");
+    EXPECT_EQ(messages::damagedPicture("too many colours"), "It is damaged (too many colours)");
+}
+
+TEST(Messages, the_dialogs_of_names_say_which_name) {
+    EXPECT_EQ(messages::nothingOfThisName("a b.bmp"), "There is nothing of the name \"a b.bmp\".");
+    EXPECT_EQ(messages::neverReplaced("a b.bmp"),
+              "\"a b.bmp\" holds something already, and that is never replaced. Please choose "
+              "another name.");
+    EXPECT_EQ(messages::useEmptyFile("a b.bmp"),
+              "\"a b.bmp\" is there already, and empty. Shall the map be saved in it?");
+}
+
 }  // namespace
 
 }  // namespace ombrelia
