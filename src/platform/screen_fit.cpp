@@ -1,0 +1,45 @@
+#include "platform/screen_fit.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ombrelia {
+
+namespace {
+
+constexpr double kScales[] = {4, 3, 2.5, 2, 1.75, 1.5, 1.25, 1};
+constexpr double kSmallScales[] = {1, 0.9, 0.8, 0.7, 0.6, 0.5};
+
+}  // namespace
+
+double fittingScale(const EditorSize& editor, double freeWidth, double freeHeight) {
+    for (const double scale : kScales) {
+        if ((editor.width + editor.dockedWidth) * scale <= freeWidth &&
+            editor.height * scale <= freeHeight) {
+            return scale;
+        }
+    }
+    const auto* fits =
+        std::find_if(std::begin(kSmallScales), std::end(kSmallScales), [&](double scale) {
+            return editor.width * scale <= freeWidth && editor.height * scale <= freeHeight;
+        });
+    return fits == std::end(kSmallScales) ? *std::rbegin(kSmallScales) : *fits;
+}
+
+double scaleForHeight(double most, double heightUnits, double freeHeight) {
+    const auto fits = [&](double scale) {
+        return scale <= most && heightUnits * scale <= freeHeight;
+    };
+    const auto* row = std::find_if(std::begin(kScales), std::end(kScales), fits);
+    if (row != std::end(kScales)) {
+        return *row;
+    }
+    const auto* small = std::find_if(std::begin(kSmallScales), std::end(kSmallScales), fits);
+    return small == std::end(kSmallScales) ? *std::rbegin(kSmallScales) : *small;
+}
+
+double keptInside(double wished, double length, double freeBegin, double freeLength) {
+    return std::max(freeBegin, std::min(wished, freeBegin + freeLength - length));
+}
+
+}  // namespace ombrelia

@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+
+#include "platform/screen_fit.h"
+
+namespace ombrelia {
+
+namespace {
+
+constexpr EditorSize kEditor{771, 136, 355};
+
+TEST(ScreenFit, the_largest_scale_with_the_hint_frame_is_taken) {
+    EXPECT_EQ(fittingScale(kEditor, 907, 355), 1);
+    EXPECT_EQ(fittingScale(kEditor, 1280, 800), 1.25);
+    EXPECT_EQ(fittingScale(kEditor, 1920, 1080), 2);
+    EXPECT_EQ(fittingScale(kEditor, 3840, 2160), 4);
+    EXPECT_EQ(fittingScale(kEditor, 100000, 100000), 4);
+    EXPECT_EQ(fittingScale(kEditor, 3840, 400), 1);
+}
+
+TEST(ScreenFit, the_editor_alone_keeps_scale_one) {
+    EXPECT_EQ(fittingScale(kEditor, 906, 600), 1);
+    EXPECT_EQ(fittingScale(kEditor, 800, 600), 1);
+    EXPECT_EQ(fittingScale(kEditor, 771, 355), 1);
+}
+
+TEST(ScreenFit, a_smaller_screen_takes_a_smaller_scale) {
+    EXPECT_EQ(fittingScale(kEditor, 770, 600), 0.9);
+    EXPECT_EQ(fittingScale(kEditor, 640, 480), 0.8);
+    EXPECT_EQ(fittingScale(kEditor, 800, 200), 0.5);
+    EXPECT_EQ(fittingScale(kEditor, 10, 10), 0.5);
+}
+
+TEST(ScreenFit, a_window_with_a_frame_is_no_higher_than_the_screen) {
+    EXPECT_EQ(scaleForHeight(2, 530, 1040), 1.75);
+    EXPECT_EQ(scaleForHeight(1.25, 530, 1040), 1.25);
+    EXPECT_EQ(scaleForHeight(0.8, 530, 440), 0.8);
+    EXPECT_EQ(scaleForHeight(1, 530, 440), 0.8);
+    EXPECT_EQ(scaleForHeight(1, 530, 10), 0.5);
+}
+
+TEST(ScreenFit, a_window_comes_inside) {
+    EXPECT_EQ(keptInside(50, 100, 0, 640), 50);
+    EXPECT_EQ(keptInside(600, 100, 0, 640), 540);
+    EXPECT_EQ(keptInside(-30, 100, 0, 640), 0);
+    EXPECT_EQ(keptInside(1300, 100, 1280, 640), 1300);
+    EXPECT_EQ(keptInside(0, 100, 1280, 640), 1280);
+    EXPECT_EQ(keptInside(40, 700, 20, 640), 20);
+}
+
+}  // namespace
+
+}  // namespace ombrelia
