@@ -9,8 +9,11 @@
 
 int main(int argc, char** argv) {
     ombrelia::bindEvents();
-    return ombrelia::runProgram(argc, argv,
-                                {ombrelia::startEditor, ombrelia::repairAfterFailure,
-                                 ombrelia::Form1.Width + ombrelia::HelpFrm.Width,
-                                 ombrelia::Form1.Height, 0, [] { std::_Exit(0); }});
+    return ombrelia::runProgram(
+        argc, argv,
+        {ombrelia::startEditor,
+         ombrelia::repairAfterFailure,
+         {ombrelia::Form1.Width, ombrelia::HelpFrm.Width, ombrelia::Form1.Height},
+         0,
+         [] { std::_Exit(0); }});
 }

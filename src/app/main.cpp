@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     ombrelia::bindEvents();
     return ombrelia::runProgram(
         argc, argv,
-        {ombrelia::startEditor, ombrelia::repairAfterFailure,
-         ombrelia::Form1.Width + ombrelia::HelpFrm.Width, ombrelia::Form1.Height});
+        {ombrelia::startEditor,
+         ombrelia::repairAfterFailure,
+         {ombrelia::Form1.Width, ombrelia::HelpFrm.Width, ombrelia::Form1.Height}});
 }

@@ -112,7 +112,7 @@ void Replay::openScreen() {
     screen_.reset();  // and all windows with it
     screen_ = std::make_unique<Screen>(session_->platform);
     const QSize size = QGuiApplication::primaryScreen()->availableSize();
-    screen_->chooseScale(size.width() / scale_, size.height() / scale_ / 2);
+    screen_->chooseScale({size.width() / scale_, 0, size.height() / scale_ / 2});
     services().desktop = screen_.get();
 }
 

@@ -105,8 +105,7 @@ void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yiel
                         });
                     },
                     repairAfterFailure,
-                    Form1.Width + HelpFrm.Width,
-                    Form1.Height,
+                    {Form1.Width, HelpFrm.Width, Form1.Height},
                     yieldMilliseconds,
                     {},
                     OMBRELIA_EDITOR});

@@ -12,8 +12,8 @@ class Skin;
 // are. scale: device pixels to a unit. Cheap after the first call.
 void dressApplication(double scale);
 
-// Any other dialog without a system frame, in the same colours, with its title in bold at its top, by
-// which it moves.
+// Any other dialog without a system frame, in the same colours, with its title in bold at its top,
+// by which it moves.
 void dressDialog(QDialog& dialog, double scale);
 
 // A message box without a system frame, in the skin's colours; with the light that says stop as

@@ -34,7 +34,8 @@ constexpr int kFirstPictureMilliseconds = 60;
 // What the system's frame adds to a window's height, at most; logical pixels.
 constexpr double kFrameHeight = 40;
 
-constexpr double kScales[] = {4, 3, 2.5, 2, 1.75, 1.5, 1.25, 1};
+// After a change of the screens: when the window manager has told what of them is free.
+constexpr int kManagerMilliseconds = 300;
 
 // Painting can leave the upper vector registers in use, which slows later arithmetic down.
 #if defined(__x86_64__)
@@ -55,6 +56,14 @@ void settleRegisters() {}
 
 QtDesktop::QtDesktop() {
     sinceSync_.start();
+    connect(qApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
+        watchScreen(screen);
+        fitSoon();
+    });
+    connect(qApp, &QGuiApplication::screenRemoved, this, &QtDesktop::fitSoon);
+    for (QScreen* screen : QGuiApplication::screens()) {
+        watchScreen(screen);
+    }
     keptInput_.OnReleased = [this] {
         QMetaObject::invokeMethod(
             qApp, [this] { keptInput_.replay(); }, Qt::QueuedConnection);
@@ -67,19 +76,32 @@ QtDesktop::~QtDesktop() {
     }
 }
 
-void QtDesktop::chooseScale(double widthUnits, double heightUnits) {
-    widthUnits_ = widthUnits;
-    heightUnits_ = heightUnits;
+void QtDesktop::watchScreen(QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, &QtDesktop::fitSoon);
+    connect(screen, &QScreen::availableGeometryChanged, this, &QtDesktop::fitSoon);
+}
+
+// A change comes as several signals, and the window manager's share after them.
+void QtDesktop::fitSoon() {
+    for (const int milliseconds : {0, kManagerMilliseconds}) {
+        QTimer::singleShot(milliseconds, this, &QtDesktop::fitScreens);
+    }
+}
+
+// Hosts come before what docks to them.
+void QtDesktop::fitScreens() {
+    for (const bool isDocked : {false, true}) {
+        for (const auto& [window, view] : views_) {
+            if ((window->DockedTo != nullptr) == isDocked && view->isVisible()) {
+                view->fitScreen();
+            }
+        }
+    }
 }
 
 double QtDesktop::scaleOn(const QScreen& screen) const {
     const QSizeF free = QSizeF(screen.availableSize()) * screen.devicePixelRatio();
-    for (const double candidate : kScales) {
-        if (widthUnits_ * candidate <= free.width() && heightUnits_ * candidate <= free.height()) {
-            return candidate;
-        }
-    }
-    return kScales[std::size(kScales) - 1];
+    return fittingScale(editor_, free.width(), free.height());
 }
 
 const QScreen& QtDesktop::screenOf(const Window& window) const {
@@ -106,12 +128,7 @@ double QtDesktop::scaleOf(const Window& window) const {
     }
     const double free =
         (screen.availableSize().height() - kFrameHeight) * screen.devicePixelRatio();
-    for (const double candidate : kScales) {
-        if (candidate <= scale && window.Height * candidate <= free) {
-            return candidate;
-        }
-    }
-    return kScales[std::size(kScales) - 1];
+    return scaleForHeight(scale, window.Height, free);
 }
 
 void QtDesktop::rescaleDocked(const Window& host) {
@@ -129,6 +146,12 @@ double QtDesktop::dockedWidth(const Window& window) const {
         }
     }
     return 0;
+}
+
+QRect QtDesktop::placeAround(const Window& window) const {
+    const WindowView* editor = dialogParent();
+    const bool isBesideIt = window.StandsAlone && editor != nullptr;
+    return isBesideIt ? editor->frameGeometry() : screenOf(window).availableGeometry();
 }
 
 WindowView& QtDesktop::viewOf(Window& window) {
@@ -299,6 +322,7 @@ void QtDesktop::showDocked(Window& host) {
         view->windowHandle()->setTransientParent(hostView.windowHandle());
         view->sync();
         view->show();
+        hostView.keepInside();
     }
 }
 

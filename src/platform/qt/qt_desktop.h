@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QObject>
 #include <QScreen>
 #include <functional>
 #include <map>
 
 #include "platform/kept_input.h"
 #include "platform/qt/skin.h"
+#include "platform/screen_fit.h"
 #include "platform/services.h"
 #include "platform/yield_clock.h"
 
@@ -15,13 +17,13 @@ namespace ombrelia {
 
 class WindowView;
 
-class QtDesktop : public Desktop {
+class QtDesktop : public QObject, public Desktop {
   public:
     QtDesktop();
     ~QtDesktop() override;
 
-    // The windows for which the scale is chosen: the editor and what docks to it, widths added.
-    void chooseScale(double widthUnits, double heightUnits);
+    // What the scale is chosen for.
+    void chooseScale(const EditorSize& editor) { editor_ = editor; }
 
     // Device pixels to a unit, for dialogs.
     double scale() const;
@@ -32,6 +34,13 @@ class QtDesktop : public Desktop {
     // The screen that a window is on, of a docked one its host's; where it is to open if it is not
     // shown yet.
     const QScreen& screenOf(const Window& window) const;
+
+    // How far from the middle windows open, in units to the right and down.
+    void setOffset(double units) { offsetUnits_ = units; }
+    double offsetUnits() const { return offsetUnits_; }
+
+    // Where a window is to open in the middle of: a game of the editor, another of its screen.
+    QRect placeAround(const Window& window) const;
 
     // A window has another scale: what docks to it takes the same.
     void rescaleDocked(const Window& host);
@@ -100,12 +109,16 @@ class QtDesktop : public Desktop {
     void tickAfterLongRun();
     bool runOrEnd(const std::function<void()>& event);
     double scaleOn(const QScreen& screen) const;
+    void watchScreen(QScreen* screen);
+    void fitSoon();
+    // Every window takes the scale of its screen anew and comes inside it.
+    void fitScreens();
     void showDocked(Window& host);
     void waitUntil(const std::function<bool()>& isDone, qint64 milliseconds);
 
     Skin skin_;
-    double widthUnits_ = 0;
-    double heightUnits_ = 0;
+    EditorSize editor_{};
+    double offsetUnits_ = 0;
     std::map<Window*, WindowView*> views_;
     YieldClock yieldClock_;
     QElapsedTimer sinceSync_;        // of a yield

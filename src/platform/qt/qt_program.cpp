@@ -8,6 +8,7 @@
 #include "platform/generator_random.h"
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canberra_sound.h"
+#include "platform/qt/editor_slot.h"
 #include "platform/qt/picture_loader.h"
 #include "platform/qt/picture_process.h"
 #include "platform/qt/plain_texts.h"
@@ -67,7 +68,9 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
                   &desktop, &failures, &pictures, &sound};
     desktop.OnFirstPaint = parts.onFirstPaint;
     desktop.setYieldTime(parts.yieldMilliseconds);
-    desktop.chooseScale(parts.widthUnits, parts.heightUnits);
+    constexpr double kBesideUnits = 24;
+    desktop.setOffset(kBesideUnits * takeEditorSlot());
+    desktop.chooseScale(parts.editor);
     desktop.OnHandled = [&settings] { settings.save(); };
     desktop.run([&parts] { runHandler(parts.start); });
     return QApplication::exec();

@@ -6,6 +6,7 @@
 
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/window_view.h"
+#include "platform/screen_fit.h"
 
 namespace ombrelia {
 
@@ -28,14 +29,33 @@ void WindowView::takeSize() {
 void WindowView::fitScreen() {
     const double scale = desktop_.scaleOf(window_);
     const double ratio = desktop_.screenOf(window_).devicePixelRatio();
-    if (scale == scale_ && ratio == ratio_) {
+    if (scale != scale_ || ratio != ratio_) {
+        scale_ = scale;
+        takeSize();
+        tellPlace();
+        shown_.clear();
+        sync();
+        desktop_.rescaleDocked(window_);
+    }
+    keepInside();
+}
+
+// What docks to it counts where there is room for both.
+void WindowView::keepInside() {
+    if (window_.DockedTo != nullptr || !canPlaceWindows()) {
         return;
     }
-    scale_ = scale;
-    takeSize();
-    shown_.clear();
-    sync();
-    desktop_.rescaleDocked(window_);
+    const QRect free = desktop_.screenOf(window_).availableGeometry();
+    const QSize own = frameGeometry().size();
+    const auto docked =
+        static_cast<int>(std::ceil(desktop_.dockedWidth(window_) * scale_ / ratio_));
+    const int width = own.width() + (own.width() + docked <= free.width() ? docked : 0);
+    const QPoint inside(
+        static_cast<int>(keptInside(pos().x(), width, free.left(), free.width())),
+        static_cast<int>(keptInside(pos().y(), own.height(), free.top(), free.height())));
+    if (inside != pos()) {
+        move(inside);
+    }
 }
 
 void WindowView::showEvent(QShowEvent* event) {
@@ -57,18 +77,29 @@ void WindowView::place() {
     }
     const double logicalPerUnit = scale_ / ratio_;
     const QRect free = desktop_.screenOf(window_).availableGeometry();
+    const QRect around = desktop_.placeAround(window_);
     const double docked = desktop_.dockedWidth(window_) * logicalPerUnit;
-    const int left = free.left() + static_cast<int>((free.width() - width() - docked) / 2);
-    const int top = free.top() + (free.height() - height()) / 2;
-    move(std::max(free.left(), left), std::max(free.top(), top));
+    const double offset = desktop_.offsetUnits() * logicalPerUnit;
+    const double left = around.left() + (around.width() - width() - docked) / 2 + offset;
+    const bool hasRoom = width() + docked <= free.width();
+    const double middle = around.top() + (around.height() - height()) / 2.0 + offset;
+    const double top = hasRoom ? middle : free.top();
+    move(static_cast<int>(keptInside(left, width(), free.left(), free.width())),
+         static_cast<int>(keptInside(top, height(), free.top(), free.height())));
     window_.Left = pos().x() / logicalPerUnit;
     window_.Top = pos().y() / logicalPerUnit;
 }
 
 bool WindowView::followRecord() {
     const double logicalPerUnit = scale_ / devicePixelRatioF();
-    const QPoint target(static_cast<int>(std::lround(window_.Left * logicalPerUnit)),
-                        static_cast<int>(std::lround(window_.Top * logicalPerUnit)));
+    const QRect free = desktop_.screenOf(window_).availableGeometry();
+    const double wished = std::round(window_.Left * logicalPerUnit);
+    // Never off the screen. Where there is no room beside its host it lies at the bottom, over as
+    // little of it as can be.
+    const double left = keptInside(wished, width(), free.left(), free.width());
+    const double lowest = std::max(free.top(), free.top() + free.height() - height());
+    const double top = left == wished ? std::round(window_.Top * logicalPerUnit) : lowest;
+    const QPoint target(static_cast<int>(left), static_cast<int>(top));
     if (target == pos()) {
         return false;
     }
@@ -77,6 +108,10 @@ bool WindowView::followRecord() {
 }
 
 void WindowView::moveEvent(QMoveEvent* /*event*/) {
+    tellPlace();
+}
+
+void WindowView::tellPlace() {
     const double logicalPerUnit = scale_ / devicePixelRatioF();
     window_.Left = pos().x() / logicalPerUnit;
     window_.Top = pos().y() / logicalPerUnit;

@@ -40,8 +40,11 @@ class WindowView : public QWidget {
     // docks to it.
     void place();
 
-    // Takes the scale and the density of the screen that the window is on now.
+    // Takes the scale and the density of the screen that the window is on now, and comes inside it.
     void fitScreen();
+
+    // Comes inside its screen, together with what docks to it.
+    void keepInside();
 
     // Starts and stops the system timers to match the record; a resting one starts again.
     void syncTimers();
@@ -102,6 +105,8 @@ class WindowView : public QWidget {
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
     QRect logicalRect(const QRect& device) const;
+    // Tells the record where the window stands.
+    void tellPlace();
     void takeSize();
     int menuHeight() const { return frame_ == nullptr ? 0 : frame_->menuHeight(); }
 

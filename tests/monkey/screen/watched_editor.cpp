@@ -149,7 +149,8 @@ int main(int argc, char** argv) {
     ombrelia::bindEvents();
     const int status = ombrelia::runProgram(
         argc, argv,
-        {ombrelia::startWatched, ombrelia::repairAfterFailure,
-         ombrelia::Form1.Width + ombrelia::HelpFrm.Width, ombrelia::Form1.Height});
+        {ombrelia::startWatched,
+         ombrelia::repairAfterFailure,
+         {ombrelia::Form1.Width, ombrelia::HelpFrm.Width, ombrelia::Form1.Height}});
     std::_Exit(status);  // the thread that answers may still be waiting
 }
