@@ -7,7 +7,7 @@ namespace ombrelia {
 struct PictureKind {
     const char* name;          // as the guide has it
     const char* suffixes;      // of its files, a blank between them
-    const char* toolkitNames;  // a blank between them; none for bitmaps, which have our own reader
+    const char* toolkitNames;  // a blank between them; none where our own reader needs none
 };
 
 // The same on every machine, whatever plug-ins the toolkit has. No vectors, no films.
@@ -18,7 +18,7 @@ inline constexpr PictureKind kPictureKinds[] = {
     {"GIF", "gif", "gif"},
     {"TIFF", "tif tiff", "tiff tif"},
     {"WebP", "webp", "webp"},
-    {"TGA", "tga", "tga"},
+    {"TGA", "tga", ""},
     {"PBM", "pbm", "pbm"},
     {"PGM", "pgm", "pgm"},
     {"PPM", "ppm", "ppm"},

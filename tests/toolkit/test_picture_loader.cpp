@@ -143,6 +143,35 @@ TEST(PictureLoader, a_turned_photograph_is_upright) {
     expectNear(loadBytes(buffer.data().toStdString()), upright, 6);
 }
 
+TEST(PictureLoader, a_turned_webp_is_upright) {
+    const QImage image = colorful(96, 64);
+    std::string bytes = fileOf(image, "webp");
+    ByteLine notes;
+    notes.text("EXIF").number(26).text("II").word(42).number(8).word(1);
+    notes.word(0x0112).word(3).number(1).word(6).word(0).number(0);
+    bytes += notes.bytes();
+    const auto size = static_cast<std::uint32_t>(bytes.size() - 8);
+    for (unsigned i = 0; i < 4; ++i) {
+        bytes[4 + i] = static_cast<char>(size >> 8 * i);
+    }
+    expectNear(loadBytes(bytes), image.transformed(QTransform().rotate(90)), 24);
+}
+
+TEST(PictureLoader, an_icon_gives_its_largest_picture) {
+    std::string pictures;
+    ByteLine head;
+    head.word(0).word(1).word(3);
+    std::uint32_t place = 6 + 3 * 16;
+    for (const int side : {16, 70, 32}) {
+        const std::string one = fileOf(colorful(side, side), "png");
+        head.byte(static_cast<unsigned>(side)).byte(static_cast<unsigned>(side)).byte(0).byte(0);
+        head.word(1).word(32).number(static_cast<std::uint32_t>(one.size())).number(place);
+        place += static_cast<std::uint32_t>(one.size());
+        pictures += one;
+    }
+    expectNear(loadBytes(head.bytes() + pictures), colorful(70, 70), 0);
+}
+
 TEST(PictureLoader, bitmaps_go_to_our_own_reader) {
     BitmapParts parts;
     parts.width = 2;

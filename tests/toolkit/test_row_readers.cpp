@@ -68,7 +68,8 @@ void expectAsTheToolkit(const std::string& bytes) {
 }
 
 // A PNG as the library writes it, of bytes by chance.
-std::string pngOf(int colorType, int depth, int width, int height, int interlace) {
+std::string pngOf(int colorType, int depth, int width, int height, int interlace,
+                  std::vector<png_byte> notes = {}) {
     std::string bytes;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     png_infop info = png_create_info_struct(png);
@@ -89,6 +90,9 @@ std::string pngOf(int colorType, int depth, int width, int height, int interlace
     }
     if (colorType == PNG_COLOR_TYPE_PALETTE) {
         png_set_PLTE(png, info, palette, 1 << depth);
+    }
+    if (!notes.empty()) {
+        png_set_eXIf_1(png, info, static_cast<png_uint_32>(notes.size()), notes.data());
     }
     png_write_info(png, info);
     std::minstd_rand draws(static_cast<unsigned>(depth * 100 + width));
@@ -161,6 +165,22 @@ TEST(RowReaders, each_depth_and_kind_of_a_png_is_as_the_toolkit_has_it) {
                                                     << width << "x" << height << ", " << interlace);
                     expectAsTheToolkit(pngOf(type, depth, width, height, interlace));
                 }
+            }
+        }
+    }
+}
+
+TEST(RowReaders, the_notes_of_a_png_turn_it) {
+    const std::vector<png_byte> quarter = {'M', 'M', 0, 42, 0, 0, 0, 8, 0, 1,  // one entry
+                                           1,   18,  0, 3,  0, 0, 0, 1, 0, 6, 0, 0, 0, 0, 0, 0};
+    for (const int interlace : {PNG_INTERLACE_NONE, PNG_INTERLACE_ADAM7}) {
+        const Surface plain = loadBytes(pngOf(PNG_COLOR_TYPE_RGB, 8, 20, 9, interlace));
+        const Surface turned = loadBytes(pngOf(PNG_COLOR_TYPE_RGB, 8, 20, 9, interlace, quarter));
+        ASSERT_EQ(turned.width(), 9);
+        ASSERT_EQ(turned.height(), 20);
+        for (int y = 0; y < 9; ++y) {
+            for (int x = 0; x < 20; ++x) {
+                ASSERT_EQ(turned.row(x)[8 - y], plain.row(y)[x]) << x << "," << y;
             }
         }
     }

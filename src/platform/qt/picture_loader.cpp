@@ -19,6 +19,7 @@
 #include "platform/qt/png_reader.h"
 #include "platform/qt/toolkit_picture.h"
 #include "platform/surface.h"
+#include "platform/tga_reader.h"
 
 namespace ombrelia {
 
@@ -167,6 +168,8 @@ bool QtPictureLoader::loadPicture(const std::string& path, PictureWish& wish, Su
 void readPicture(ByteSource& source, PictureWish& wish, Surface& picture) {
     if (isBitmap(source)) {
         readBitmap(source, wish, picture);
+    } else if (isTarga(source)) {
+        readTarga(source, wish, picture);
     } else if (isPng(source)) {
         readPng(source, wish, picture);
     } else if (isJpeg(source)) {

@@ -3,6 +3,7 @@
 #include <QIODevice>
 #include <QImageReader>
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <iterator>
 #include <span>
@@ -10,11 +11,12 @@
 #include <vector>
 
 #include "platform/byte_source.h"
+#include "platform/exif_orientation.h"
 #include "platform/failure.h"
 #include "platform/messages.h"
 #include "platform/picture_kinds_table.h"
 #include "platform/picture_sink.h"
-#include "platform/qt/picture_end.h"
+#include "platform/qt/gif_end.h"
 #include "platform/surface.h"
 
 namespace ombrelia {
@@ -53,16 +55,6 @@ bool isAllowed(const QByteArray& format) {
            std::any_of(std::begin(kPictureKinds), std::end(kPictureKinds), [&](const auto& kind) {
                return QByteArray(kind.toolkitNames).split(' ').contains(format);
            });
-}
-
-// The toolkit's name of the kind, by content. It takes a TGA of true colours for cursors, but where
-// those are counted the TGA has a 0.
-QByteArray formatOf(QIODevice& device) {
-    constexpr qint64 kCountBytes = 2;
-    const QByteArray format = QImageReader::imageFormat(&device);
-    const bool isIcon = format == "ico" || format == "cur";
-    const QByteArray begin = device.peek(4 + kCountBytes);
-    return isIcon && begin.endsWith(QByteArray(kCountBytes, '\0')) ? QByteArray("tga") : format;
 }
 
 // What the reader decodes into, all black: it keeps an image of the right size and format, so what
@@ -104,6 +96,44 @@ PictureTurn turnOf(QImageIOHandler::Transformations turn) {
     return result;
 }
 
+// As the notes of a WebP tell, which the toolkit does not read. Chunks of a name and a length each,
+// filled up to an even one.
+PictureTurn webpTurn(ByteSource& source) {
+    constexpr std::uint64_t kHeadBytes = 8;
+    constexpr std::uint64_t kMostNotes = 65536;
+    std::array<std::uint8_t, kHeadBytes> head{};
+    std::uint64_t at = 12;
+    while (at + kHeadBytes <= source.size()) {
+        source.read(at, head);
+        const std::uint64_t length =
+            head[4] + (head[5] << 8U) + (head[6] << 16U) + (std::uint64_t{head[7]} << 24U);
+        at += kHeadBytes;
+        if (std::equal(head.begin(), head.begin() + 4, "EXIF") && length <= kMostNotes &&
+            length <= source.size() - at) {
+            std::vector<std::uint8_t> notes(length);
+            source.read(at, notes);
+            return exifTurn(notes);
+        }
+        at += length + length % 2;
+    }
+    return {};
+}
+
+// An icon has its picture in several sizes.
+void goToLargest(QImageReader& reader) {
+    int largest = 0;
+    int most = 0;
+    for (int i = 0; i < reader.imageCount(); ++i) {
+        const int pixels =
+            reader.jumpToImage(i) ? reader.size().width() * reader.size().height() : 0;
+        if (pixels > most) {
+            most = pixels;
+            largest = i;
+        }
+    }
+    reader.jumpToImage(largest);
+}
+
 // Row by row, so that the picture is not held once more.
 void putRows(const QImage& image, const std::string& path, PictureSink& sink) {
     const bool isDeepGrey = image.format() == QImage::Format_Grayscale16;
@@ -136,18 +166,23 @@ void putRows(const QImage& image, const std::string& path, PictureSink& sink) {
 void readToolkitPicture(ByteSource& source, PictureWish& wish, Surface& picture) {
     const std::string& path = source.path();
     SourceDevice device(source);
-    const QByteArray format = formatOf(device);
+    const QByteArray format = QImageReader::imageFormat(&device);
     if (!isAllowed(format)) {
         throw PictureFailure(path, messages::kUnknownPicture);
     }
-    if (!isPictureComplete(device, format)) {
+    if (format == "gif" && !isGifComplete(device)) {
         throw PictureFailure(path, messages::kCutOff);
     }
     QImageReader::setAllocationLimit(kMostMegabytes);
     QImage image = imageFor(device, format, path);
     QImageReader reader(&device, format);
     reader.setAutoDetectImageFormat(false);
-    const PictureTurn turn = turnOf(reader.transformation());
+    const bool isIcon = format == "ico" || format == "cur";
+    if (isIcon) {
+        image = {};
+        goToLargest(reader);
+    }
+    const PictureTurn turn = format == "webp" ? webpTurn(source) : turnOf(reader.transformation());
     if (!reader.read(&image) || image.isNull()) {
         throw PictureFailure(path, reader.errorString().toStdString());
     }

@@ -1,11 +1,8 @@
-#include "platform/qt/picture_end.h"
+#include "platform/qt/gif_end.h"
 
-#include <QByteArray>
 #include <QIODevice>
-#include <algorithm>
 #include <array>
 #include <cstdint>
-#include <iterator>
 
 namespace ombrelia {
 
@@ -43,7 +40,7 @@ qint64 gifPaletteBytes(std::uint8_t flags) {
     return (flags & kHasPalette) == 0 ? 0 : qint64{6} << (flags & 7U);
 }
 
-bool isGifComplete(QIODevice& device) {
+bool endsAfterItsPicture(QIODevice& device) {
     constexpr std::uint8_t kExtension = 0x21;
     constexpr std::uint8_t kImage = 0x2C;
     std::array<std::uint8_t, 13> screen{};
@@ -64,37 +61,11 @@ bool isGifComplete(QIODevice& device) {
     return false;
 }
 
-// Pixels that are not run-length coded have a length that is known beforehand.
-bool isTgaComplete(QIODevice& device) {
-    constexpr unsigned kCoded = 8;
-    std::array<std::uint8_t, 18> header{};
-    if (!take(device, header)) {
-        return false;
-    }
-    const auto word = [&header](std::size_t at) {
-        return header[at] + header[at + 1] * qint64{256};
-    };
-    const qint64 palette = header[1] == 0 ? 0 : word(5) * ((header[7] + 7) / 8);
-    const qint64 pixels = word(12) * word(14) * ((header[16] + 7) / 8);
-    return (header[2] & kCoded) != 0 || skip(device, header[0] + palette + pixels);
-}
-
-struct EndRow {
-    const char* format;
-    bool (*isComplete)(QIODevice& device);
-};
-constexpr EndRow kEnds[] = {{"gif", isGifComplete}, {"tga", isTgaComplete}};
-
 }  // namespace
 
-bool isPictureComplete(QIODevice& device, const QByteArray& format) {
-    const auto* row = std::find_if(std::begin(kEnds), std::end(kEnds),
-                                   [&](const EndRow& r) { return format == r.format; });
-    if (row == std::end(kEnds)) {
-        return true;
-    }
+bool isGifComplete(QIODevice& device) {
     const qint64 place = device.pos();
-    const bool isComplete = row->isComplete(device);
+    const bool isComplete = endsAfterItsPicture(device);
     device.seek(place);
     return isComplete;
 }
