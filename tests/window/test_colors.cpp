@@ -162,4 +162,24 @@ TEST(Colors, the_sets_of_the_program_cannot_be_deleted) {
     });
 }
 
+TEST(Colors, a_list_that_is_longer_than_the_screen_scrolls) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        driver.inProgram([] { Form1.Combo1.List.resize(5000, "One of many"); });
+        driver.click(Form1.Combo1);
+        ASSERT_TRUE(driver.waitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        driver.inProgram([] {
+            const QWidget* menu = QApplication::activePopupWidget();
+            const auto actions = menu->actions();
+            EXPECT_EQ(actions.size(), 5000);
+            EXPECT_LE(menu->height(), menu->screen()->geometry().height());
+            EXPECT_LE(menu->width(), menu->screen()->geometry().width() / 2);
+        });
+        // The end goes to the last one, which shows then.
+        driver.key("End");
+        driver.key("Return");
+        EXPECT_TRUE(driver.waitFor([] { return Form1.Combo1.ListIndex == 4999; }));
+    });
+}
+
 }  // namespace ombrelia

@@ -1,5 +1,6 @@
 #include "platform/qt/file_dialog.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -61,6 +62,10 @@ void FileDialog::layOut() {
         }
     }
     setSidebarUrls(places);
+    for (auto* view : findChildren<QAbstractItemView*>()) {
+        view->setDragEnabled(
+            false);  // nothing to drag them to, and the picture outlives the dialog
+    }
     auto* list = findChild<QTreeView*>(QStringLiteral("treeView"));
     list->setColumnHidden(kTypeColumn, true);
     QHeaderView* header = list->header();

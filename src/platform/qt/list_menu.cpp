@@ -14,7 +14,7 @@ namespace {
 
 // %1 letters, %2 edge, %3 and %4 padding of an entry, %5 width; all in logical pixels.
 constexpr StyleText kMenuStyle = R"(
-QMenu { background: @well; color: @text; font-size: %1px; border: %2px solid @edge;
+QMenu { menu-scrollable: 1; background: @well; color: @text; font-size: %1px; border: %2px solid @edge;
         padding: %2px; }
 QMenu::item { min-width: %5px; padding: %3px %4px; background: transparent; }
 QMenu::item:selected { background: @over_lo; }

@@ -14,6 +14,7 @@
 #include "platform/qt/plain_texts.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_services.h"
+#include "platform/qt/surroundings.h"
 
 namespace ombrelia {
 
@@ -46,6 +47,7 @@ int runProgram(int argc, char** argv, const ProgramParts& parts) {
         return 1;
     }
     choosePlatform();
+    prepareSurroundings();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("ombrelia-terrain-editor"));
     QApplication::setQuitOnLastWindowClosed(false);
