@@ -3,7 +3,7 @@
 #include <span>
 
 #include "core/objects.h"
-#include "platform/binary_file.h"
+#include "platform/whole_file.h"
 
 namespace ombrelia {
 

@@ -6,14 +6,20 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <sys/types.h>
 #include <utility>
 
 namespace ombrelia {
+
+// Of a file that is made anew; the user's mask takes from it.
+inline constexpr mode_t kNewFileMode = 0666;
 
 class BinaryFile {
   public:
     // Opens, or creates, an ordinary file. Throws FileFailure for folders, pipes and devices too.
     explicit BinaryFile(std::string path);
+    // Takes over an open file; failures name the path.
+    BinaryFile(std::string path, int handle) : path_(std::move(path)), handle_(handle) {}
     ~BinaryFile();
     BinaryFile(const BinaryFile&) = delete;
     BinaryFile& operator=(const BinaryFile&) = delete;
@@ -31,23 +37,12 @@ class BinaryFile {
     void close();
 
   private:
-    BinaryFile(std::string path, int handle) : path_(std::move(path)), handle_(handle) {}
     [[noreturn]] void fail(int errorNumber) const;
-    friend bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
     std::string path_;
     int handle_ = -1;
     bool isNew_ = false;
 };
-
-// Makes a new file that appears under its name with all its bytes or, whatever happens, not at all.
-// False if something of this name is there or the file system offers no such way; nothing has
-// happened then. Throws FileFailure.
-[[nodiscard]] bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
-
-// Saves the bytes under a name that nothing has, or an empty file: the file has all of them then,
-// or is as it was. False if it holds something already, which is left alone. Throws FileFailure.
-[[nodiscard]] bool saveWholeFile(const std::string& path, std::span<const std::uint8_t> bytes);
 
 // Whether there is an ordinary file, or a link to one, of this name.
 bool isOrdinaryFile(const std::string& path);

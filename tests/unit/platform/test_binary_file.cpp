@@ -109,45 +109,6 @@ TEST_F(BinaryFileTest, undoing_removes_a_new_file_and_empties_an_old_one) {
     EXPECT_EQ(folder.names(), std::vector<std::string>{"old"});
 }
 
-TEST_F(BinaryFileTest, a_whole_file_is_there_at_once) {
-    ASSERT_TRUE(makeWholeFile(folder / "a", letters("hello")));
-    EXPECT_EQ(contentOf(folder / "a"), "hello");
-    EXPECT_FALSE(makeWholeFile(folder / "a", letters("other")));
-    EXPECT_EQ(contentOf(folder / "a"), "hello");
-    EXPECT_FALSE(makeWholeFile(folder / "gone/a", letters("hello")));
-}
-
-TEST_F(BinaryFileTest, a_whole_file_without_room_is_a_failure_and_not_there) {
-    const FileSizeLimit full(3);
-    EXPECT_THROW(static_cast<void>(makeWholeFile(folder / "a", letters("hello"))), FileFailure);
-    EXPECT_TRUE(folder.names().empty());
-}
-
-TEST_F(BinaryFileTest, a_save_fills_a_new_name_and_an_empty_file) {
-    EXPECT_TRUE(saveWholeFile(folder / "new", letters("hello")));
-    EXPECT_EQ(contentOf(folder / "new"), "hello");
-    writeContent(folder / "empty", "");
-    EXPECT_TRUE(saveWholeFile(folder / "empty", letters("other")));
-    EXPECT_EQ(contentOf(folder / "empty"), "other");
-}
-
-TEST_F(BinaryFileTest, a_save_leaves_alone_what_holds_something) {
-    writeContent(folder / "a", "x");
-    EXPECT_FALSE(saveWholeFile(folder / "a", letters("hello")));
-    EXPECT_EQ(contentOf(folder / "a"), "x");
-}
-
-TEST_F(BinaryFileTest, a_save_without_room_leaves_what_was_there) {
-    writeContent(folder / "empty", "");
-    std::filesystem::create_symlink("end", folder / "link");
-    const FileSizeLimit full(3);
-    EXPECT_THROW(static_cast<void>(saveWholeFile(folder / "new", letters("hello"))), FileFailure);
-    EXPECT_THROW(static_cast<void>(saveWholeFile(folder / "empty", letters("hello"))), FileFailure);
-    EXPECT_THROW(static_cast<void>(saveWholeFile(folder / "link", letters("hello"))), FileFailure);
-    EXPECT_EQ(folder.names(), (std::vector<std::string>{"empty", "link"}));
-    EXPECT_EQ(contentOf(folder / "empty"), "");
-}
-
 TEST_F(BinaryFileTest, the_file_behind_a_loose_link_is_new_and_can_be_undone) {
     std::filesystem::create_symlink("end", folder / "link");
     {
