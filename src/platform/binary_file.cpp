@@ -82,6 +82,23 @@ void BinaryFile::write(std::span<const std::uint8_t> bytes) {
     }
 }
 
+void BinaryFile::flush() {
+    while (::fsync(handle_) != 0) {
+        if (errno == EINVAL || errno == EOPNOTSUPP) {
+            return;
+        }
+        if (errno != EINTR) {
+            fail(errno);
+        }
+    }
+}
+
+void BinaryFile::flushAll() {
+    if (::syncfs(handle_) != 0) {
+        fail(errno);
+    }
+}
+
 void BinaryFile::close() {
     if (handle_ >= 0 && ::close(std::exchange(handle_, -1)) != 0 && errno != EINTR) {
         fail(errno);

@@ -33,6 +33,12 @@ class BinaryFile {
     // Writes all bytes at the current place.
     void write(std::span<const std::uint8_t> bytes);
 
+    // Puts what was written on the disk; does nothing where the file system knows no such thing.
+    void flush();
+
+    // The same for all of the file system.
+    void flushAll();
+
     // Closes; throws when the system reports a late failure. A second call does nothing.
     void close();
 

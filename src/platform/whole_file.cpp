@@ -1,7 +1,10 @@
 #include "platform/whole_file.h"
 
 #include <fcntl.h>
+#include <filesystem>
+#include <system_error>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/binary_file.h"
 #include "platform/failure.h"
@@ -9,6 +12,26 @@
 namespace ombrelia {
 
 namespace {
+
+constexpr int kMostLinks = 40;  // that the system follows
+
+// What links lead to at last, whether it is there or not.
+std::string endOf(std::string path) {
+    for (int n = 0; n < kMostLinks; ++n) {
+        std::error_code isNoLink;
+        const std::filesystem::path next = std::filesystem::read_symlink(path, isNoLink);
+        if (isNoLink) {
+            break;
+        }
+        path = std::filesystem::path(path).parent_path() / next;
+    }
+    return path;
+}
+
+std::string folderOf(const std::string& path) {
+    const std::size_t slash = path.find_last_of('/');
+    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
+}
 
 // Takes away what a save has made, unless it was finished.
 class CreationGuard {
@@ -30,45 +53,58 @@ class CreationGuard {
     bool isKept_ = false;
 };
 
+// Puts the name of a file on the disk; its bytes are there.
+void flushName(const SavePlace& place, BinaryFile& file) {
+    const int handle = ::open(place.folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) {
+        file.flushAll();  // a folder can be written to that cannot be read
+        return;
+    }
+    BinaryFile folder(place.path, handle);
+    folder.flush();
+}
+
+void finish(const SavePlace& place, BinaryFile& file, CreationGuard& guard) {
+    flushName(place, file);
+    file.close();
+    guard.keep();
+}
+
 }  // namespace
 
-bool makeWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
-    const std::size_t slash = path.find_last_of('/');
-    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-    const int handle = ::open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, kNewFileMode);
+SavePlace::SavePlace(std::string name)
+    : path(std::move(name)), end(endOf(path)), folder(folderOf(end)) {}
+
+bool makeNameless(const SavePlace& place, std::span<const std::uint8_t> bytes) {
+    const int handle = ::open(place.folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, kNewFileMode);
     if (handle < 0) {
         return false;
     }
-    BinaryFile nameless(path, handle);
-    nameless.write(bytes);
-    const std::string end = "/proc/self/fd/" + std::to_string(handle);
-    const bool isNamed =
-        ::linkat(AT_FDCWD, end.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
-    try {
-        nameless.close();
-    } catch (const FileFailure&) {
-        if (isNamed) {
-            undoCreation(path, true);
-        }
-        throw;
+    BinaryFile file(place.path, handle);
+    file.write(bytes);
+    file.flush();
+    const std::string itself = "/proc/self/fd/" + std::to_string(handle);
+    if (::linkat(AT_FDCWD, itself.c_str(), AT_FDCWD, place.end.c_str(), AT_SYMLINK_FOLLOW) != 0) {
+        return false;
     }
-    return isNamed;
+    CreationGuard guard(place.end, true);
+    finish(place, file, guard);
+    return true;
 }
 
 bool saveWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
-    if (!isNameTaken(path) && makeWholeFile(path, bytes)) {
+    const SavePlace place(path);
+    if (!isNameTaken(place.end) && makeNameless(place, bytes)) {
         return true;
     }
-    BinaryFile probe(path);
-    if (probe.length() != 0) {
+    BinaryFile file(path);
+    if (file.length() != 0) {
         return false;
     }
-    CreationGuard guard(path, probe.isNew());
-    probe.close();
-    BinaryFile file(path);
+    CreationGuard guard(place.end, file.isNew());
     file.write(bytes);
-    file.close();
-    guard.keep();
+    file.flush();
+    finish(place, file, guard);
     return true;
 }
 

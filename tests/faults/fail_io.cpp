@@ -9,6 +9,7 @@
 //   FAULT_LOG      a file that gets a line for each counted call
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
@@ -16,13 +17,14 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr std::size_t kMostFiles = 1024;
-std::array<bool, kMostFiles> isWatched;
+std::array<std::array<char, PATH_MAX>, kMostFiles> watched;  // by handle; empty: passes
 long calls = 0;
 bool isBusy = false;  // inside a call of ours: what it calls itself passes
 
@@ -98,14 +100,16 @@ int guarded(const char* what, const char* path, Call call) {
     return result;
 }
 
-bool isWatchedFile(int file) {
-    return !isBusy && file >= 0 && static_cast<std::size_t>(file) < kMostFiles &&
-           isWatched[static_cast<std::size_t>(file)];
+// The path that a handle was opened with, empty if its calls pass.
+const char* pathOf(int file) {
+    const bool isKnown = !isBusy && file >= 0 && static_cast<std::size_t>(file) < kMostFiles;
+    return isKnown ? watched[static_cast<std::size_t>(file)].data() : "";
 }
 
-void watch(int file, bool isOn) {
+void watch(int file, const char* path) {
     if (file >= 0 && static_cast<std::size_t>(file) < kMostFiles) {
-        isWatched[static_cast<std::size_t>(file)] = isOn;
+        auto& known = watched[static_cast<std::size_t>(file)];
+        std::snprintf(known.data(), known.size(), "%s", path);
     }
 }
 
@@ -126,13 +130,13 @@ int open(const char* path, int flags, ...) {
         return next(path, flags, mode);
     }
     const int file = guarded("open", path, [&] { return next(path, flags, mode); });
-    watch(file, true);
+    watch(file, path);
     return file;
 }
 
 ssize_t read(int file, void* bytes, std::size_t count) {
     static auto* const next = real<ssize_t(int, void*, std::size_t)>(nullptr, "read");
-    if (!isWatchedFile(file) || !isChosen("read", "")) {
+    if (*pathOf(file) == '\0' || !isChosen("read", pathOf(file))) {
         return next(file, bytes, count);
     }
     if (const int error = chosenError(); error != 0) {
@@ -144,10 +148,7 @@ ssize_t read(int file, void* bytes, std::size_t count) {
 
 ssize_t write(int file, const void* bytes, std::size_t count) {
     static auto* const next = real<ssize_t(int, const void*, std::size_t)>(nullptr, "write");
-    if (!isWatchedFile(file)) {
-        return next(file, bytes, count);
-    }
-    if (!isChosen("write", "")) {
+    if (*pathOf(file) == '\0' || !isChosen("write", pathOf(file))) {
         return next(file, bytes, count);
     }
     if (isKind("kill")) {
@@ -167,18 +168,23 @@ ssize_t write(int file, const void* bytes, std::size_t count) {
 
 int fsync(int file) {
     static auto* const next = real<int(int)>(nullptr, "fsync");
-    return isWatchedFile(file) ? guarded("fsync", wish("FAULT_FOLDER"), [&] { return next(file); })
-                               : next(file);
+    return guarded("fsync", pathOf(file), [&] { return next(file); });
+}
+
+int syncfs(int file) noexcept {
+    static auto* const next = real<int(int)>(nullptr, "syncfs");
+    return guarded("syncfs", pathOf(file), [&] { return next(file); });
 }
 
 int close(int file) {
     static auto* const next = real<int(int)>(nullptr, "close");
-    if (!isWatchedFile(file)) {
+    const std::string path = pathOf(file);
+    if (path.empty()) {
         return next(file);
     }
-    watch(file, false);
+    watch(file, "");
     const int status = next(file);  // the file is closed even where the system reports an error
-    return guarded("close", wish("FAULT_FOLDER"), [&] { return status; });
+    return guarded("close", path.c_str(), [&] { return status; });
 }
 
 int rename(const char* from, const char* to) noexcept {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Makes writing fail at every point, fills the disk, lets two editors work at once, locks the store
-and kills editors. Whatever was kept before must be there afterwards, no file may be half, the user
-must be told, and the next start must be clean.
+"""Makes writing fail at every point, fills the disk, looks for each flush, lets two editors work at
+once, locks the store and kills editors. Whatever was kept before must be there afterwards, no file
+may be half, the user must be told, and the next start must be clean.
 
     faults.py --build FOLDER --library FILE [--kills N] [--quick] [GROUP ...]
 """
@@ -61,11 +61,12 @@ class Desk:
         return subprocess.run(self.command(lines), env=environment, capture_output=True, text=True,
                               timeout=120)
 
-    def calls(self, lines):
+    def calls(self, lines, **fault):
+        """Each call that is counted, with its path."""
         log = self.folder / "calls.log"
         log.unlink(missing_ok=True)
-        good(self.run(lines, at=0, log=log))
-        return [line.split()[1] for line in log.read_text().splitlines()]
+        good(self.run(lines, at=0, log=log, **fault))
+        return [tuple(line.split(" ", 2)[1:]) for line in log.read_text().splitlines()]
 
     def bytes_of(self, path):
         return path.read_bytes() if path.exists() else None
@@ -159,9 +160,9 @@ def every_point(options):
         calls = desk.calls(case["lines"])
         errors = ERRORS[:1] if options.quick else ERRORS
         kinds = [*errors, errno.EINTR, "short", "kill", "killed"]
-        for at, call in enumerate(calls, 1):
+        for at, (call, _) in enumerate(calls, 1):
             for kind in kinds:
-                if kind == errno.EINTR and call not in ("write", "close"):
+                if kind == errno.EINTR and call not in ("write", "fsync", "close"):
                     continue
                 if kind in ("kill", "killed") and case.get("empty_map") and call == "write":
                     continue  # a file that was there is written in its place
@@ -172,6 +173,38 @@ def every_point(options):
                         raise Wrong(f"{name}, call {at} ({call}), {kind}, lasts {lasts}: {wrong}")
                     tried += 1
     return f"{tried} faults"
+
+
+def check_flushed(steps, home):
+    """The bytes are on the disk before they have their name, the name at the end."""
+    written = max(i for i, (call, _) in enumerate(steps) if call == "write")
+    named = max(i for i, step in enumerate(steps) if step == ("linkat", f"{home}/map.bmp"))
+    if ("fsync", steps[written][1]) not in steps[written:named]:
+        raise Wrong("the map is named before it is flushed")
+    if ("fsync", f"{home}/") not in steps[named:]:
+        raise Wrong("the folder is not flushed")
+
+
+def flushed(options):
+    """A map counts as saved when it is on the disk; if it cannot be put there, that is told."""
+    desk = Desk(options)
+    good(desk.run(FIRST_START))
+    calls = desk.calls(SAVE_MAP)
+    check_flushed([step for step in calls if "/conf/" not in step[1]], desk.home)
+    tried = 0
+    for at, (call, path) in enumerate(calls, 1):
+        if call != "fsync" or "/conf/" in path:
+            continue
+        desk = Desk(options)
+        good(desk.run(FIRST_START))
+        result = good(desk.run(SAVE_MAP, at=at, kind=errno.EIO))
+        if f"map.bmp\" could not be saved: {os.strerror(errno.EIO)}" not in result.stdout:
+            raise Wrong(f"call {at} ({call} {path}): told {result.stdout!r}")
+        if (desk.home / "map.bmp").exists():
+            raise Wrong(f"call {at} ({call} {path}): the map is there")
+        check_rest(desk, set())
+        tried += 1
+    return f"{tried} flushes"
 
 
 def full_disk(options):
@@ -295,7 +328,7 @@ def kills(options):
     return f"{options.kills} kills, {len(sets)} sets and {maps} maps kept"
 
 
-GROUPS = {f.__name__: f for f in (every_point, full_disk, two_editors, locked_store, kills)}
+GROUPS = {f.__name__: f for f in (every_point, flushed, full_disk, two_editors, locked_store, kills)}
 
 
 def main():

@@ -1,5 +1,6 @@
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
@@ -95,6 +96,18 @@ TEST_F(BinaryFileTest, nothing_to_write_writes_nothing) {
     BinaryFile file(folder / "a");
     file.write({});
     EXPECT_EQ(file.length(), 0U);
+}
+
+TEST_F(BinaryFileTest, a_flush_that_fails_is_told) {
+    BinaryFile closed(folder / "a", -1);
+    EXPECT_THROW(closed.flush(), FileFailure);
+    EXPECT_THROW(closed.flushAll(), FileFailure);
+}
+
+TEST_F(BinaryFileTest, what_knows_no_flush_is_not_flushed) {
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0666), 0);
+    BinaryFile pipe(folder / "pipe", ::open((folder / "pipe").c_str(), O_RDWR | O_CLOEXEC));
+    EXPECT_NO_THROW(pipe.flush());
 }
 
 TEST_F(BinaryFileTest, undoing_removes_a_new_file_and_empties_an_old_one) {
