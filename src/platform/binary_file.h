@@ -24,6 +24,8 @@ class BinaryFile {
     BinaryFile(const BinaryFile&) = delete;
     BinaryFile& operator=(const BinaryFile&) = delete;
 
+    int handle() const { return handle_; }
+
     // Bytes in the file.
     std::uint64_t length() const;
 
