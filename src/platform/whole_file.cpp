@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "platform/binary_file.h"
-#include "platform/failure.h"
+#include "platform/passing_file.h"
 
 namespace ombrelia {
 
@@ -36,21 +36,24 @@ std::string folderOf(const std::string& path) {
 // Takes away what a save has made, unless it was finished.
 class CreationGuard {
   public:
-    CreationGuard(const std::string& path, bool wasNew) : path_(path), wasNew_(wasNew) {}
+    // A file that was there is guarded from the first change on.
+    CreationGuard(const std::string& path, bool wasNew)
+        : path_(path), wasNew_(wasNew), isOn_(wasNew) {}
     ~CreationGuard() {
-        if (!isKept_) {
+        if (isOn_) {
             undoCreation(path_, wasNew_);
         }
     }
     CreationGuard(const CreationGuard&) = delete;
     CreationGuard& operator=(const CreationGuard&) = delete;
 
-    void keep() { isKept_ = true; }
+    void begin() { isOn_ = true; }
+    void end() { isOn_ = false; }
 
   private:
     const std::string& path_;
     bool wasNew_;
-    bool isKept_ = false;
+    bool isOn_;
 };
 
 // Puts the name of a file on the disk; its bytes are there.
@@ -67,7 +70,12 @@ void flushName(const SavePlace& place, BinaryFile& file) {
 void finish(const SavePlace& place, BinaryFile& file, CreationGuard& guard) {
     flushName(place, file);
     file.close();
-    guard.keep();
+    guard.end();
+}
+
+void writeFlushed(BinaryFile& file, std::span<const std::uint8_t> bytes) {
+    file.write(bytes);
+    file.flush();
 }
 
 }  // namespace
@@ -81,8 +89,7 @@ bool makeNameless(const SavePlace& place, std::span<const std::uint8_t> bytes) {
         return false;
     }
     BinaryFile file(place.path, handle);
-    file.write(bytes);
-    file.flush();
+    writeFlushed(file, bytes);
     const std::string itself = "/proc/self/fd/" + std::to_string(handle);
     if (::linkat(AT_FDCWD, itself.c_str(), AT_FDCWD, place.end.c_str(), AT_SYMLINK_FOLLOW) != 0) {
         return false;
@@ -92,20 +99,52 @@ bool makeNameless(const SavePlace& place, std::span<const std::uint8_t> bytes) {
     return true;
 }
 
-bool saveWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
-    const SavePlace place(path);
-    if (!isNameTaken(place.end) && makeNameless(place, bytes)) {
-        return true;
-    }
-    BinaryFile file(path);
-    if (file.length() != 0) {
+bool makeBeside(const SavePlace& place, std::span<const std::uint8_t> bytes) {
+    PassingFile passing(place.folder, place.path);
+    if (!passing.isThere()) {
         return false;
     }
-    CreationGuard guard(place.end, file.isNew());
-    file.write(bytes);
-    file.flush();
-    finish(place, file, guard);
+    writeFlushed(passing.file(), bytes);
+    if (!passing.becomeNew(place.end)) {
+        return false;
+    }
+    CreationGuard guard(place.end, true);
+    finish(place, passing.file(), guard);
     return true;
+}
+
+bool fillEmpty(const SavePlace& place, std::span<const std::uint8_t> bytes) {
+    BinaryFile empty(place.path);
+    if (empty.length() != 0) {
+        return false;
+    }
+    CreationGuard guard(place.end, empty.isNew());
+    PassingFile passing(place.folder, place.path);
+    if (passing.isThere() && passing.takeRightsOf(empty)) {
+        writeFlushed(passing.file(), bytes);
+        if (BinaryFile(place.path).length() != 0) {
+            guard.end();  // another program was faster
+            return false;
+        }
+        if (passing.replace(place.end)) {
+            guard.begin();
+            finish(place, passing.file(), guard);
+            return true;
+        }
+    }
+    guard.begin();
+    writeFlushed(empty, bytes);
+    finish(place, empty, guard);
+    return true;
+}
+
+bool saveWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+    const SavePlace place(path);
+    removeLeftovers(place.folder);
+    if (!isNameTaken(place.end) && (makeNameless(place, bytes) || makeBeside(place, bytes))) {
+        return true;
+    }
+    return fillEmpty(place, bytes);
 }
 
 }  // namespace ombrelia
