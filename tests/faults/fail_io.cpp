@@ -3,9 +3,10 @@
 //   FAULT_FOLDER   calls on files below it are counted; all others pass
 //   FAULT_AT       number of the call that fails, from 1; 0: none
 //   FAULT_KIND     an error number, "short" (a write or read does one half), "kill" (in front of
-//   the call,
-//                  a write after one half) or "killed" (behind the call)
+//                  the call, a write after one half), "killed" (behind the call) or "other" (in
+//                  front of it another program writes the file FAULT_OTHER; nothing fails)
 //   FAULT_LASTS    1: every later call fails too, as on a full disk
+//   FAULT_REFUSE   calls that the file system does not know: O_TMPFILE, renameat2, linkat, flock
 //   FAULT_LOG      a file that gets a line for each counted call
 #include <array>
 #include <cerrno>
@@ -18,6 +19,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <string>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -60,18 +62,40 @@ void note(const char* what, const char* path) {
     std::abort();
 }
 
+bool isKind(const char* kind) {
+    return std::strcmp(wish("FAULT_KIND"), kind) == 0;
+}
+
+// What another program does at this moment.
+void writeOther() {
+    if (std::FILE* file = std::fopen(wish("FAULT_OTHER"), "w")) {
+        std::fputs("other", file);
+        std::fclose(file);
+    }
+}
+
 // Counts a call; true if it is the one that the wish is about.
 bool isChosen(const char* what, const char* path) {
     isBusy = true;
     ++calls;
     note(what, path);
-    isBusy = false;
     const long at = std::atol(wish("FAULT_AT"));
-    return at != 0 && (calls == at || (calls > at && *wish("FAULT_LASTS") == '1'));
+    if (calls == at && isKind("other")) {
+        writeOther();
+    }
+    isBusy = false;
+    return at != 0 && !isKind("other") &&
+           (calls == at || (calls > at && *wish("FAULT_LASTS") == '1'));
 }
 
-bool isKind(const char* kind) {
-    return std::strcmp(wish("FAULT_KIND"), kind) == 0;
+// Whether the file system shall not know a call on a file; errno says it in the system's words
+// then.
+bool isRefused(const char* call, const char* path, int error) {
+    if (isBusy || !isBelow(path) || std::strstr(wish("FAULT_REFUSE"), call) == nullptr) {
+        return false;
+    }
+    errno = error;
+    return true;
 }
 
 // The error of a chosen call, 0 if it is to be done after all.
@@ -128,6 +152,9 @@ int open(const char* path, int flags, ...) {
     static auto* const next = real<int(const char*, int, ...)>(nullptr, "open");
     if (isBusy || !isBelow(path)) {
         return next(path, flags, mode);
+    }
+    if ((flags & O_TMPFILE) == O_TMPFILE && isRefused("O_TMPFILE", path, EOPNOTSUPP)) {
+        return -1;
     }
     const int file = guarded("open", path, [&] { return next(path, flags, mode); });
     watch(file, path);
@@ -194,7 +221,47 @@ int rename(const char* from, const char* to) noexcept {
 
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
     static auto* const next = real<int(int, const char*, int, const char*, int)>(nullptr, "linkat");
+    if (isRefused("linkat", to, EPERM)) {
+        return -1;
+    }
     return guarded("linkat", to, [&] { return next(fromFolder, from, toFolder, to, flags); });
+}
+
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
+              unsigned flags) noexcept {
+    static auto* const next =
+        real<int(int, const char*, int, const char*, unsigned)>(nullptr, "renameat2");
+    if (isRefused("renameat2", to, EINVAL)) {
+        return -1;
+    }
+    return guarded("renameat2", to, [&] { return next(fromFolder, from, toFolder, to, flags); });
+}
+
+// Is killed at, but never fails: what cannot be taken away stays.
+int unlink(const char* path) noexcept {
+    static auto* const next = real<int(const char*)>(nullptr, "unlink");
+    const bool chosen = !isBusy && isBelow(path) && isChosen("unlink", path);
+    if (chosen && isKind("kill")) {
+        die();
+    }
+    const int result = next(path);
+    if (chosen && isKind("killed")) {
+        die();
+    }
+    return result;
+}
+
+int flock(int file, int operation) noexcept {
+    static auto* const next = real<int(int, int)>(nullptr, "flock");
+    if (isRefused("flock", pathOf(file), ENOLCK)) {
+        return -1;
+    }
+    return guarded("flock", pathOf(file), [&] { return next(file, operation); });
+}
+
+int fchmod(int file, mode_t mode) noexcept {
+    static auto* const next = real<int(int, mode_t)>(nullptr, "fchmod");
+    return guarded("fchmod", pathOf(file), [&] { return next(file, mode); });
 }
 
 int mkdir(const char* path, mode_t mode) noexcept {

@@ -27,21 +27,39 @@ ADD_SET = ["start 80", 'answer input "My set"', "click Form1.NTool(26)"]
 CHANGE_OPTIONS = ["start 80", "press Form1.NTool(65) left 2 2", "release Form1.NTool(65) left 2 2",
                   "answer message no", "click Form1.NTool(17)"]
 
+# What a save that was killed may leave for the next one to take away.
+PASSING = {".ombrelia-terrain-editor.saving", ".ombrelia-terrain-editor.saving2"}
+
+# Calls that a file system may not know, by the way in which a map is saved on it.
+WAYS = {
+    "": "",
+    ", no nameless files": "O_TMPFILE",
+    ", linked": "O_TMPFILE renameat2",
+    ", over an empty file of its own": "O_TMPFILE renameat2 linkat",
+    ", no locks": "flock",
+    ", in its place": "O_TMPFILE flock",
+}
+
 
 class Wrong(Exception):
     pass
 
 
 class Desk:
-    """A folder with a store and maps, and the editor that works in it."""
+    """A folder with a store and maps, and the editor that works in it. A map can be there, empty."""
 
-    def __init__(self, options):
+    def __init__(self, options, before=None, empty_map=False):
         self.options = options
         self.scratch = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.scratch.name)
         self.home = self.folder / "home"
         self.home.mkdir()
         self.settings = self.home / "conf" / "settings.ini"
+        self.map = self.home / "map.bmp"
+        if before:
+            good(self.run(before))
+        if empty_map:
+            self.map.touch(0o640)
 
     def script(self, lines, name="lines.txt"):
         path = self.folder / name
@@ -100,11 +118,9 @@ def check_rest(desk, known):
 
 def expected_of(options, lines, before):
     """What store and map are when nothing fails."""
-    desk = Desk(options)
-    if before:
-        good(desk.run(before))
+    desk = Desk(options, before)
     good(desk.run(lines))
-    return desk.bytes_of(desk.settings), desk.bytes_of(desk.home / "map.bmp")
+    return desk.bytes_of(desk.settings), desk.bytes_of(desk.map)
 
 
 def sections(store):
@@ -112,32 +128,33 @@ def sections(store):
 
 
 def one_fault(options, case, at, kind, lasts):
-    lines, before = case["lines"], case["before"]
-    desk = Desk(options)
-    if before:
-        good(desk.run(before))
-    if case.get("empty_map"):
-        (desk.home / "map.bmp").touch()
-    old = desk.bytes_of(desk.settings), desk.bytes_of(desk.home / "map.bmp")
+    lines, refuse = case["lines"], case.get("refuse", "")
+    desk = Desk(options, case["before"], case.get("empty_map"))
+    old = desk.bytes_of(desk.settings), desk.bytes_of(desk.map)
     new = case["expected"]
-    result = desk.run(lines, at=at, kind=kind, lasts=lasts)
+    result = desk.run(lines, at=at, kind=kind, lasts=lasts, refuse=refuse)
     is_killed = kind in ("kill", "killed")
     if is_killed != (result.returncode == -signal.SIGKILL):
         good(result)
     check_whole(desk.settings)
-    now = desk.bytes_of(desk.settings), desk.bytes_of(desk.home / "map.bmp")
+    now = desk.bytes_of(desk.settings), desk.bytes_of(desk.map)
     # A start writes its defaults before the lines that follow, so the store may be on its way.
     if sections(old[0]) - sections(now[0]):
         raise Wrong(f"the store has lost {sorted(sections(old[0]) - sections(now[0]))}")
-    if now[1] not in (old[1], new[1]) and not (is_killed and now[1] == b""):
+    claims = "linkat" in refuse or "flock" in refuse  # the name, before the map stands in it
+    if now[1] not in (old[1], new[1]) and not (is_killed and claims and now[1] == b""):
         raise Wrong(f"a map of {len(now[1] or b'')} bytes")
-    if not is_killed:
+    if is_killed:
+        check_rest(desk, PASSING | {"conf/settings.ini.new"})
+    else:
         check_rest(desk, set())
         if now != new and "told " not in result.stdout:
             raise Wrong("nothing was told: " + result.stdout)
-    good(desk.run(lines))
-    if (desk.bytes_of(desk.settings), desk.bytes_of(desk.home / "map.bmp")) != new:
+    good(desk.run(lines, at=0, refuse=refuse))
+    if (desk.bytes_of(desk.settings), desk.bytes_of(desk.map)) != new:
         raise Wrong("the next start is not clean")
+    if case.get("empty_map") and desk.map.stat().st_mode & 0o777 != 0o640:
+        raise Wrong(f"the map has the mode {desk.map.stat().st_mode:o}")
     check_rest(desk, set())
 
 
@@ -145,65 +162,123 @@ def every_point(options):
     cases = {
         "first start": {"lines": FIRST_START, "before": None},
         "saving a map": {"lines": SAVE_MAP, "before": FIRST_START},
-        "saving over an empty file": {"lines": SAVE_MAP, "before": FIRST_START, "empty_map": True},
         "adding a colour set": {"lines": ADD_SET, "before": FIRST_START},
         "leaving with other options": {"lines": CHANGE_OPTIONS, "before": FIRST_START},
     }
+    return f"{every_point_of(options, cases)} faults"
+
+
+def every_save(options):
+    """The calls of a save alone, in every way that a file system allows."""
+    cases = {}
+    for way, refuse in WAYS.items():
+        case = {"lines": SAVE_MAP, "before": FIRST_START, "refuse": refuse, "save_alone": True}
+        cases["a new file" + way] = case
+        cases["an empty file" + way] = case | {"empty_map": True}
+    return f"{every_point_of(options, cases)} faults"
+
+
+def fits(kind, call, is_quick):
+    """Whether this can happen to a call."""
+    if kind == errno.EINTR:
+        return call in ("write", "fsync", "close")
+    if kind == "short":
+        return call in ("read", "write")
+    if kind == "kill" and is_quick:
+        return call == "write"  # in front of another it is the kill behind the one before
+    return call != "unlink" or kind in ("kill", "killed")
+
+
+def every_point_of(options, cases):
     tried = 0
     for name, case in cases.items():
         case["expected"] = expected_of(options, case["lines"], case["before"])
-        desk = Desk(options)
-        if case["before"]:
-            good(desk.run(case["before"]))
-        if case.get("empty_map"):
-            (desk.home / "map.bmp").touch()
-        calls = desk.calls(case["lines"])
+        desk = Desk(options, case["before"], case.get("empty_map"))
+        refuse = case.get("refuse", "")
+        calls = desk.calls(case["lines"], refuse=refuse)
         errors = ERRORS[:1] if options.quick else ERRORS
         kinds = [*errors, errno.EINTR, "short", "kill", "killed"]
-        for at, (call, _) in enumerate(calls, 1):
+        for at, (call, path) in enumerate(calls, 1):
+            if case.get("save_alone") and "/conf/" in path:
+                continue
             for kind in kinds:
-                if kind == errno.EINTR and call not in ("write", "fsync", "close"):
+                if not fits(kind, call, options.quick):
                     continue
-                if kind in ("kill", "killed") and case.get("empty_map") and call == "write":
-                    continue  # a file that was there is written in its place
+                if kind == "kill" and path.endswith("map.bmp") and call == "write":
+                    continue  # without locks it is written in its place
                 for lasts in (0, 1) if kind in ERRORS else (0,):
                     try:
                         one_fault(options, case, at, kind, lasts)
                     except Wrong as wrong:
                         raise Wrong(f"{name}, call {at} ({call}), {kind}, lasts {lasts}: {wrong}")
                     tried += 1
-    return f"{tried} faults"
+    return tried
 
 
-def check_flushed(steps, home):
+def never_replaced(options):
+    """Another program writes the map while it is saved: what it wrote stays as it is."""
+    tried = 0
+    for way, refuse in WAYS.items():
+        for empty_map in (False, True):
+            if "flock" in refuse:
+                continue  # an empty file is written in its place
+            desk = Desk(options, FIRST_START, empty_map)
+            calls = desk.calls(SAVE_MAP, refuse=refuse)
+            named = max(at for at, (call, path) in enumerate(calls, 1) if path == str(desk.map)
+                        and call in ("linkat", "renameat2", "rename"))
+            if calls[named - 1][0] == "rename":  # replaces; the look at the name is before it
+                named = max(at for at in range(1, named) if calls[at - 1][0] == "fsync")
+            for at in range(1, named + 1):
+                if "/conf/" in calls[at - 1][1]:
+                    continue
+                desk = Desk(options, FIRST_START, empty_map)
+                good(desk.run(SAVE_MAP, at=at, kind="other", other=desk.map, refuse=refuse))
+                if desk.bytes_of(desk.map) != b"other":
+                    raise Wrong(f"{'an empty' if empty_map else 'a new'} file{way}, "
+                                f"call {at} {calls[at - 1]}: what another program wrote is lost")
+                check_rest(desk, set())
+                tried += 1
+    return f"{tried} moments"
+
+
+def check_flushed(steps, desk):
     """The bytes are on the disk before they have their name, the name at the end."""
     written = max(i for i, (call, _) in enumerate(steps) if call == "write")
-    named = max(i for i, step in enumerate(steps) if step == ("linkat", f"{home}/map.bmp"))
+    named = max((i for i, (call, path) in enumerate(steps)
+                 if call in ("linkat", "renameat2", "rename") and path == str(desk.map)),
+                default=written + 2)
     if ("fsync", steps[written][1]) not in steps[written:named]:
         raise Wrong("the map is named before it is flushed")
-    if ("fsync", f"{home}/") not in steps[named:]:
+    if ("fsync", f"{desk.home}/") not in steps[named:]:
         raise Wrong("the folder is not flushed")
+
+
+def one_failing_flush(options, at, refuse, empty_map):
+    desk = Desk(options, FIRST_START, empty_map)
+    before = desk.bytes_of(desk.map)
+    result = good(desk.run(SAVE_MAP, at=at, kind=errno.EIO, refuse=refuse))
+    if f'map.bmp" could not be saved: {os.strerror(errno.EIO)}' not in result.stdout:
+        raise Wrong(f"call {at}: told {result.stdout!r}")
+    if desk.bytes_of(desk.map) != before:
+        raise Wrong(f"call {at}: the map is another")
+    check_rest(desk, set())
 
 
 def flushed(options):
     """A map counts as saved when it is on the disk; if it cannot be put there, that is told."""
-    desk = Desk(options)
-    good(desk.run(FIRST_START))
-    calls = desk.calls(SAVE_MAP)
-    check_flushed([step for step in calls if "/conf/" not in step[1]], desk.home)
     tried = 0
-    for at, (call, path) in enumerate(calls, 1):
-        if call != "fsync" or "/conf/" in path:
-            continue
-        desk = Desk(options)
-        good(desk.run(FIRST_START))
-        result = good(desk.run(SAVE_MAP, at=at, kind=errno.EIO))
-        if f"map.bmp\" could not be saved: {os.strerror(errno.EIO)}" not in result.stdout:
-            raise Wrong(f"call {at} ({call} {path}): told {result.stdout!r}")
-        if (desk.home / "map.bmp").exists():
-            raise Wrong(f"call {at} ({call} {path}): the map is there")
-        check_rest(desk, set())
-        tried += 1
+    for way, refuse in WAYS.items():
+        for empty_map in (False, True):
+            desk = Desk(options, FIRST_START, empty_map)
+            calls = desk.calls(SAVE_MAP, refuse=refuse)
+            try:
+                check_flushed([step for step in calls if "/conf/" not in step[1]], desk)
+                for at, (call, path) in enumerate(calls, 1):
+                    if call == "fsync" and "/conf/" not in path:
+                        one_failing_flush(options, at, refuse, empty_map)
+                        tried += 1
+            except Wrong as wrong:
+                raise Wrong(f"{'an empty' if empty_map else 'a new'} file{way}: {wrong}")
     return f"{tried} flushes"
 
 
@@ -212,8 +287,7 @@ def full_disk(options):
     good_bytes = expected_of(options, SAVE_MAP, FIRST_START)
     tried = 0
     for limit in [*range(0, 12000, 499), 5497, 5498, 5499]:
-        desk = Desk(options)
-        good(desk.run(FIRST_START))
+        desk = Desk(options, FIRST_START)
         old = desk.bytes_of(desk.settings)
         result = subprocess.run(
             [sys.executable, "-c",
@@ -223,7 +297,7 @@ def full_disk(options):
              "os.execv(sys.argv[2], sys.argv[2:])",
              str(limit), *desk.command(SAVE_MAP)], capture_output=True, text=True, timeout=120)
         good(result)
-        now = desk.bytes_of(desk.home / "map.bmp")
+        now = desk.bytes_of(desk.map)
         if now is not None and now != good_bytes[1]:
             raise Wrong(f"limit {limit}: a map of {len(now)} bytes")
         if (now is None) != (limit < MAP_BYTES) or (now is None) != ("map.bmp" in result.stdout):
@@ -265,8 +339,7 @@ def two_editors(options):
 
 def locked_store(options):
     """Another process holds the store: the editor goes on, says so, and keeps its changes."""
-    desk = Desk(options)
-    good(desk.run(FIRST_START))
+    desk = Desk(options, FIRST_START)
     holder = subprocess.Popen(["flock", "--no-fork", f"{desk.settings}.lock", "sleep", "600"])
     time.sleep(0.3)
     try:
@@ -328,7 +401,8 @@ def kills(options):
     return f"{options.kills} kills, {len(sets)} sets and {maps} maps kept"
 
 
-GROUPS = {f.__name__: f for f in (every_point, flushed, full_disk, two_editors, locked_store, kills)}
+GROUPS = {f.__name__: f for f in (every_point, every_save, never_replaced, flushed, full_disk,
+                                  two_editors, locked_store, kills)}
 
 
 def main():
