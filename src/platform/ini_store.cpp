@@ -305,7 +305,7 @@ std::string IniStore::writeMerged() {
     const FileHandle lock(::open((target + ".lock").c_str(),
                                  O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     if (lock.get() < 0) {
-        return failed(errno);
+        return failed(error ? error.value() : errno);  // the folder's reason is behind the other
     }
     isPatient_ = takeLock(lock.get(), isPatient_ ? kPatienceMilliseconds : 0);
     if (!isPatient_) {

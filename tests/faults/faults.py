@@ -241,6 +241,21 @@ def never_replaced(options):
     return f"{tried} moments"
 
 
+def true_reasons(options):
+    """A folder of settings that cannot be made: what is told is why, not that it is missing."""
+    for error in (errno.EROFS, errno.EACCES, errno.ENOSPC, errno.EDQUOT):
+        desk = Desk(options)
+        calls = desk.calls(FIRST_START)
+        at = 1 + [call for call, _ in calls].index("mkdir")
+        desk = Desk(options)
+        told = good(desk.run(FIRST_START, at=at, kind=error)).stdout
+        if f'settings.ini": {os.strerror(error)}.' not in told:
+            raise Wrong(f"for {os.strerror(error)!r} is told {told!r}")
+        if os.strerror(errno.ENOENT) in told:
+            raise Wrong(f"beside {os.strerror(error)!r} is told {told!r}")
+    return "4 reasons"
+
+
 def check_flushed(steps, desk):
     """The bytes are on the disk before they have their name, the name at the end."""
     written = max(i for i, (call, _) in enumerate(steps) if call == "write")
@@ -401,8 +416,8 @@ def kills(options):
     return f"{options.kills} kills, {len(sets)} sets and {maps} maps kept"
 
 
-GROUPS = {f.__name__: f for f in (every_point, every_save, never_replaced, flushed, full_disk,
-                                  two_editors, locked_store, kills)}
+GROUPS = {f.__name__: f for f in (every_point, every_save, never_replaced, flushed,
+                                  true_reasons, full_disk, two_editors, locked_store, kills)}
 
 
 def main():

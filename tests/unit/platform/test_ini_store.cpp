@@ -1,6 +1,8 @@
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -16,6 +18,7 @@
 #include <unistd.h>
 
 #include "platform/ini_store.h"
+#include "temp_folder.h"
 
 namespace ombrelia {
 
@@ -213,6 +216,18 @@ TEST(ini_store, a_folder_that_cannot_be_made_is_told_with_file_and_reason) {
     EXPECT_NE(sentence.find(path), std::string::npos) << sentence;
     EXPECT_NE(sentence.find("Not a directory"), std::string::npos) << sentence;
     EXPECT_EQ(store.read("Settings", "a", ""), "1") << "the run goes on with the value";
+}
+
+TEST(ini_store, a_folder_that_cannot_be_made_is_told_with_the_reason_of_that) {
+    const Folder folder;
+    fs::create_directory(folder.path() / "locked");
+    ASSERT_EQ(::chmod(folder.path().c_str(), 0755), 0);
+    ASSERT_EQ(::chmod((folder.path() / "locked").c_str(), 0555), 0);
+    const OrdinaryUser user;
+    IniStore store((folder.path() / "locked/conf/deeper/settings.ini").string());
+    store.write("Settings", "a", "1");
+    const std::string sentence = store.commit();
+    EXPECT_NE(sentence.find(std::strerror(EACCES)), std::string::npos) << sentence;
 }
 
 TEST(ini_store, a_disk_without_room_leaves_the_old_file) {
