@@ -13,6 +13,7 @@
 #include "files/bitmap_import.h"
 #include "files/import_test.h"
 #include "platform/bitmap_bytes.h"
+#include "platform/dispatch.h"
 #include "platform/failure.h"
 #include "platform/picture_sink.h"
 #include "platform/window_life.h"
