@@ -1,5 +1,6 @@
 #include "platform/qt/picture_loader.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>

@@ -1,5 +1,6 @@
 #include "platform/qt/png_reader.h"
 
+#include <QColor>
 #include <QRgba64>
 #include <array>
 #include <csetjmp>

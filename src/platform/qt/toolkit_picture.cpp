@@ -105,8 +105,10 @@ PictureTurn webpTurn(ByteSource& source) {
     std::uint64_t at = 12;
     while (at + kHeadBytes <= source.size()) {
         source.read(at, head);
-        const std::uint64_t length =
-            head[4] + (head[5] << 8U) + (head[6] << 16U) + (std::uint64_t{head[7]} << 24U);
+        std::uint64_t length = 0;
+        for (std::size_t i = kHeadBytes; i-- > 4;) {
+            length = length << 8U | head[i];
+        }
         at += kHeadBytes;
         if (std::equal(head.begin(), head.begin() + 4, "EXIF") && length <= kMostNotes &&
             length <= source.size() - at) {
