@@ -42,6 +42,7 @@ enum class Event {
     DblClick,
     DragOver,
     DragDrop,
+    Wheel,  // the wheel was turned over the part, or over one that it contains
     KeyDown,
     Load,
     Unload,
@@ -56,6 +57,9 @@ enum class Event {
     Count
 };
 
+// Steps of the wheel from one notch to the next, for wheels that turn without any.
+inline constexpr int kWheelSteps = 5;
+
 enum class MouseButton { None = 0, Left = 1, Right = 2, Middle = 4 };
 
 // What a handler is told. X and Y are in twips (15 a pixel) from the corner of an image or label,
@@ -66,6 +70,7 @@ struct EventArgs {
     MouseButton Button = MouseButton::None;
     float X = 0;
     float Y = 0;
+    int Steps = 0;               // of the wheel, down above 0; kWheelSteps a notch
     int KeyCode = 0;             // virtual key code; a handler may swallow the key with 0
     Control* Dragged = nullptr;  // what is being dragged, for DragOver and DragDrop
     double Value = 0;            // for AskValue and SetValue

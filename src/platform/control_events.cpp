@@ -7,8 +7,8 @@ namespace ombrelia {
 
 namespace {
 
-constexpr Event kMouse[] = {Event::MouseDown, Event::MouseMove, Event::MouseUp, Event::Click,
-                            Event::DblClick,  Event::DragOver,  Event::DragDrop};
+constexpr Event kMouse[] = {Event::MouseDown, Event::MouseMove, Event::MouseUp,  Event::Click,
+                            Event::DblClick,  Event::DragOver,  Event::DragDrop, Event::Wheel};
 constexpr Event kValue[] = {Event::AskValue, Event::SetValue};
 constexpr Event kWindowLife[] = {Event::Load, Event::Unload, Event::Close, Event::Resize,
                                  Event::Paint};
@@ -31,7 +31,7 @@ bool canGet(ControlKind kind, Event event) {
             return isOneOf(kMouse, event) || event == Event::KeyDown;
         case ControlKind::ListBox:  // a press opens it, and a choice is its click
             return event == Event::MouseMove || event == Event::Click || event == Event::DragOver ||
-                   event == Event::DragDrop || event == Event::KeyDown;
+                   event == Event::DragDrop || event == Event::Wheel || event == Event::KeyDown;
         case ControlKind::Timer:
             return event == Event::Timer;
         case ControlKind::ScrollBar:

@@ -18,6 +18,8 @@ struct PointerState {
     Control* dragged = nullptr;              // that is being dragged
     bool isSecondPress = false;              // of a double click that the target handled
     Control* lastPressed = nullptr;          // target of the last press, held or over
+    const Control* wheeled = nullptr;        // that heard of the wheel last
+    double wheelRest = 0;                    // steps, between -1 and 1, that it was not told of
 };
 PointerState state;
 
@@ -152,6 +154,44 @@ void release(Window& window, const PointerInput& input, const Place& place) {
     }
 }
 
+Control* wheelHearerOf(Control& part) {
+    Control* hearer = &part;
+    while (hearer != nullptr && hearer->handlerOf(Event::Wheel) == nullptr) {
+        hearer = hearer->Parent;
+    }
+    return hearer;
+}
+
+// Whole steps of a turn over a part, with what the turns before left over.
+int wheelSteps(const Control& hearer, double notches) {
+    const double turn = notches * kWheelSteps;
+    if (state.wheeled != &hearer || state.wheelRest * turn < 0) {
+        state.wheelRest = 0;
+    }
+    state.wheeled = &hearer;
+    state.wheelRest += turn;
+    const double steps = std::trunc(state.wheelRest);
+    state.wheelRest -= steps;
+    return static_cast<int>(steps);
+}
+
+void turnWheel(Window& window, const PointerInput& input, const Place& place) {
+    Control& top = controlAt(window, place.middle.x, place.middle.y);
+    Control* const hearer = wheelHearerOf(top);
+    if (state.button != MouseButton::None || hearer == nullptr || !isEnabled(top)) {
+        return;
+    }
+    EventArgs args;
+    args.Steps = wheelSteps(*hearer, input.notches);
+    if (args.Steps == 0) {
+        return;
+    }
+    deliver(*hearer, Event::Wheel, args);
+    if (window.Loaded) {
+        move(window, place);
+    }
+}
+
 void leave(Window& window) {
     if (state.button == MouseButton::None) {
         deliverAt(window, Event::MouseMove, MouseButton::None, {{-1, -1}, {-1, -1}});
@@ -178,6 +218,9 @@ void pointerInput(Window& window, double scale, const PointerInput& input) {
             break;
         case PointerKind::Leave:
             leave(window);
+            break;
+        case PointerKind::Wheel:
+            turnWheel(window, input, place);
             break;
     }
 }

@@ -13,6 +13,7 @@ enum class PointerKind {
     SecondPress,  // of a double click, as the screen counts it
     Release,
     Leave,  // the pointer left the window
+    Wheel,
 };
 
 // What a screen saw of the pointer.
@@ -21,6 +22,7 @@ struct PointerInput {
     double x = 0;  // device pixels from the left top corner of the window's client area
     double y = 0;
     MouseButton button = MouseButton::None;  // that went down or up
+    double notches = 0;                      // that the wheel was turned by, down above 0
 };
 
 // Tells a window, shown at scale device pixels a unit, what its screen saw, by these rules:
@@ -38,6 +40,9 @@ struct PointerInput {
 // - Images and labels get whole units from their own corner, as on a screen of scale 1; surfaces
 // and
 //   windows get the place as it is.
+// - The wheel goes to the part under the pointer or, if that has no handler of it, to what contains
+//   it, at last to its window; not while a button is held, and not over a disabled part. Turns of
+//   less than a step add up. What lies under the pointer then is told as by a move.
 // Nothing happens to a window that is not to be seen.
 void pointerInput(Window& window, double scale, const PointerInput& input);
 

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <QStyleHints>
+#include <QWheelEvent>
 #include <QWindow>
 #include <cmath>
 #include <utility>
@@ -145,9 +146,10 @@ void WindowView::paintEvent(QPaintEvent* event) {
 }
 
 // Where the pointer is, in device pixels from the corner below the menus.
-void WindowView::handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button) {
+void WindowView::handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button,
+                          double notches) {
     const QPointF device = (logical - QPointF(0, menuHeight())) * devicePixelRatioF();
-    const PointerInput input{kind, device.x(), device.y(), buttonOf(button)};
+    const PointerInput input{kind, device.x(), device.y(), buttonOf(button), notches};
     desktop_.input(
         [&window = window_, scale = scale_, input] { pointerInput(window, scale, input); });
 }
@@ -226,6 +228,12 @@ void WindowView::mouseReleaseEvent(QMouseEvent* event) {
         isFollowing_ = false;
     }
     handOver(PointerKind::Release, event->position(), event->button());
+}
+
+void WindowView::wheelEvent(QWheelEvent* event) {
+    constexpr double kAngleOfNotch = QWheelEvent::DefaultDeltasPerStep;
+    const int angle = event->angleDelta().y();  // of a wheel turned away from the user, above 0
+    handOver(PointerKind::Wheel, event->position(), Qt::NoButton, -angle / kAngleOfNotch);
 }
 
 // The toolkit keeps back a move to the place where the pointer came in.

@@ -70,6 +70,7 @@ class WindowView : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -100,7 +101,8 @@ class WindowView : public QWidget {
     };
 
     Shown lookOf(const Control& control) const;
-    void handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button = Qt::NoButton);
+    void handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button = Qt::NoButton,
+                  double notches = 0);
     void press(PointerKind kind, QMouseEvent* event);
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);

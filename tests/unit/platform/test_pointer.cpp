@@ -390,6 +390,97 @@ TEST_F(Pointer, keys_go_to_the_part_that_takes_them_and_else_to_the_window) {
     EXPECT_EQ(heard.size(), 4U);
 }
 
+// The wheel over the box of a window that hears of it, and over a part inside the box.
+class WheelOver : public Pointer {
+  protected:
+    WheelOver() {
+        for (Control* part : std::array<Control*, 2>{&window, &surface}) {
+            part->On[static_cast<std::size_t>(Event::Wheel)] = [](EventArgs& args) {
+                lastArgs = args;
+                heard.push_back(args.Source->Name + " wheel " + std::to_string(args.Steps));
+                if (onEvent != nullptr) {
+                    onEvent();
+                }
+            };
+        }
+        put(inside, "inside", 2, 2, 10, 10);
+        inside.Parent = &surface;
+        listen(inside);
+    }
+
+    void turn(double x, double y, double notches, double scale = 1) {
+        pointerInput(window, scale, {PointerKind::Wheel, x, y, MouseButton::None, notches});
+    }
+
+    Image inside;
+};
+
+TEST_F(WheelOver, speaks_to_the_part_to_what_contains_it_and_at_last_to_the_window) {
+    turn(80, 20, 1);
+    turn(66, 16, -2);
+    turn(12, 12, 1);
+    turn(15, 55, 3);
+    EXPECT_EQ(heard, (Log{"surface wheel 5", "surface move", "surface wheel -10", "inside move",
+                          "window wheel 5", "face move", "window wheel 15", "window move"}));
+}
+
+TEST_F(WheelOver, has_the_places_of_the_scale) {
+    turn(2.5 * 80, 2.5 * 20, 1, 2.5);
+    EXPECT_EQ(heard[0], "surface wheel 5");
+}
+
+TEST_F(WheelOver, says_nothing_where_nobody_hears) {
+    window.On[static_cast<std::size_t>(Event::Wheel)] = nullptr;
+    turn(12, 12, 1);
+    EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(WheelOver, says_nothing_on_a_disabled_part_or_inside_one) {
+    inside.Enabled = false;
+    turn(66, 16, 1);
+    inside.Enabled = true;
+    surface.Enabled = false;
+    turn(66, 16, 1);
+    turn(80, 20, 1);
+    EXPECT_TRUE(heard.empty());
+    window.Visible = false;
+    turn(12, 12, 1);
+    EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(WheelOver, waits_for_no_held_button) {
+    press(80, 20);
+    turn(80, 20, 1);
+    release(80, 20);
+    EXPECT_EQ(heard, (Log{"surface down", "surface up", "surface click"}));
+}
+
+TEST_F(WheelOver, adds_up_what_is_less_than_a_step) {
+    for (int i = 0; i < 8; ++i) {
+        turn(12, 12, 0.125);  // of 5 steps: 0.625
+    }
+    int steps = 0;
+    for (const std::string& line : heard) {
+        steps += line == "window wheel 1" ? 1 : 0;
+    }
+    EXPECT_EQ(steps, 5);
+    heard.clear();
+    turn(12, 12, 0.15);
+    turn(12, 12, -0.15);  // the other way begins anew
+    turn(12, 12, -0.05);
+    EXPECT_EQ(heard, (Log{"window wheel -1", "face move"}));
+    heard.clear();
+    turn(12, 12, 0.15);
+    turn(80, 20, 0.15);  // so does another part
+    EXPECT_TRUE(heard.empty());
+}
+
+TEST_F(WheelOver, moves_over_no_window_that_it_closed) {
+    onEvent = [] { unloadWindow(*lastArgs.Source->Owner); };
+    turn(12, 12, 1);
+    EXPECT_EQ(heard, Log{"window wheel 5"});
+}
+
 TEST_F(Pointer, a_press_without_the_pointer_waits_for_no_held_button) {
     press(70, 20);
     pressWithoutPointer(face);
