@@ -45,6 +45,10 @@ void placeThumb() {
     refreshControl(thumb());
 }
 
+bool canScroll() {
+    return record().Max > record().Min;
+}
+
 void scrollBy(int step) {
     record().Value = narrowTo<std::int16_t>(record().Value + step);
     placeThumb();
@@ -57,6 +61,7 @@ void fitScrollerToPage() {
     const double overflow = HelpBox.Topic(CurrentTopic).Height - HelpBox.Picture1.Height;
     record() = {0, 0, roundToInt16(overflow), 0};
     placeThumb();
+    thumb().Visible = canScroll();
 }
 
 void beginPageThumbDrag(float yTwips) {
@@ -65,7 +70,7 @@ void beginPageThumbDrag(float yTwips) {
 }
 
 void dragPageThumb(float yTwips) {
-    if (HelpSliderDragState != kThumbHeld || record().Max <= record().Min) {
+    if (HelpSliderDragState != kThumbHeld || !canScroll()) {
         return;
     }
     const double low = track().Top;

@@ -4,7 +4,7 @@
 namespace ombrelia {
 
 // The range from the page that shows; the page's top in sight. A page shorter than the viewport
-// leaves a range below 0, which cannot be scrolled.
+// leaves a range below 0, which cannot be scrolled: the thumb is not seen then.
 void fitScrollerToPage();
 
 // A drag of the thumb; yTwips from its top edge.

@@ -279,6 +279,20 @@ TEST_F(Help, the_thumb_stays_when_the_pointer_leaves_the_track) {
     EXPECT_EQ(SliderValues(20).Value, 0);
 }
 
+TEST_F(Help, the_thumb_is_seen_where_the_page_can_be_scrolled) {
+    int longPages = 0;
+    HelpBox.Topic.forEach([&longPages](const PictureBox& page) {
+        GotoTopic(page.Index);
+        const bool isLong = page.Height > HelpBox.Picture1.Height;
+        EXPECT_EQ(HelpBox.Scroller(20).Visible, isLong) << page.Index;
+        longPages += isLong ? 1 : 0;
+    });
+    EXPECT_GT(longPages, 1);
+    unloadWindow(HelpBox);
+    showWindow(HelpBox);
+    EXPECT_FALSE(HelpBox.Scroller(20).Visible) << "the contents are short";
+}
+
 TEST_F(Help, the_pointer_lights_one_button_at_a_time) {
     const auto point = [](Control& control) {
         deliverMouse(control, Event::MouseMove, MouseButton::None, 3, 3);

@@ -160,8 +160,8 @@ TEST_F(OptionFrames, the_strips_thumb_follows_the_pointer_between_its_ends) {
 TEST_F(OptionFrames, the_strips_thumb_is_cut_back_at_its_ends) {
     Image& thumb = Form1.Scroller(0);
     const double low = Form1.Filler(0).Top;
-    beginStripThumbDrag(20 * 15);
-    dragStripThumb(5 * 15);  // 15 up from the top
+    beginStripThumbDrag(12 * 15);
+    dragStripThumb(5 * 15);  // 7 up from the top
     EXPECT_EQ(thumb.Top, low);
     EXPECT_EQ(value(), 0);
     EXPECT_EQ(ThumbGrab, low + 5);
@@ -174,7 +174,7 @@ TEST_F(OptionFrames, places_of_the_strips_thumb_are_whole_rounded_down) {
     dragStripThumb(12.6F * 15);
     EXPECT_EQ(ThumbGrab, low + 12);
     EXPECT_EQ(thumb.Top, low + 2);
-    set(100);  // 100 / 1664 of 177 units: the thumb stands at a fraction
+    set(110);  // 110 / 1664 of 207 units: the thumb stands at a fraction
     const double before = thumb.Top;
     EXPECT_GT(before - std::floor(before), 0.5);
     beginStripThumbDrag(10 * 15);
@@ -182,6 +182,20 @@ TEST_F(OptionFrames, places_of_the_strips_thumb_are_whole_rounded_down) {
     dragStripThumb(10 * 15);
     EXPECT_EQ(ThumbGrab, std::floor(before) + 10);
     EXPECT_EQ(thumb.Top, std::floor(before) - 1);
+}
+
+// By its middle a thumb stops half its height before the end: what is below then must be little.
+TEST_F(OptionFrames, the_strips_thumb_held_by_its_middle_shows_the_last_page) {
+    const Image& thumb = Form1.Scroller(0);
+    const double middle = thumb.Height / 2;
+    const double end = Form1.Filler(0).Top + Form1.Filler(0).Height;
+    beginStripThumbDrag(static_cast<float>(middle * 15));
+    for (double y = thumb.Top + middle; y < end; ++y) {
+        dragStripThumb(static_cast<float>((y - thumb.Top) * 15));
+    }
+    const PictureBox& last = Form1.OptFrame(14);
+    const double seen = Form1.Picture1.innerHeight() - last.Top;
+    EXPECT_GT(seen, last.Height / 2);
 }
 
 TEST_F(OptionFrames, a_fraction_of_a_frame_drag_is_rounded_down) {
