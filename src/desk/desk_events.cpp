@@ -139,6 +139,16 @@ void Scroller_MouseUp(EventArgs& /*args*/) {
     endStripThumbDrag();
 }
 
+void Filler_MouseDown(EventArgs& args) {
+    if (args.Button == MouseButton::Left) {
+        pageStrip(args.Y);
+    }
+}
+
+void Strip_Wheel(EventArgs& args) {
+    scrollStrip(args.Steps);
+}
+
 void Arrow_MouseDown(EventArgs& args) {
     holdArrow(args.Source == &Form1.ScrollUp(0));
 }

@@ -21,6 +21,8 @@ void Slider_SetValue(EventArgs& args);
 void Scroller_MouseDown(EventArgs& args);
 void Scroller_MouseMove(EventArgs& args);
 void Scroller_MouseUp(EventArgs& args);
+void Filler_MouseDown(EventArgs& args);
+void Strip_Wheel(EventArgs& args);
 void Arrow_MouseDown(EventArgs& args);
 void Arrow_MouseUp(EventArgs& args);
 void OptFrame_MouseDown(EventArgs& args);

@@ -246,4 +246,14 @@ void HelpBox_ArrowUp(EventArgs& args) {
     releasePageArrow(args.Source == &HelpBox.ScrollUp(slider::kHelpPage));
 }
 
+void HelpBox_FillerDown(EventArgs& args) {
+    if (args.Button == MouseButton::Left) {
+        turnHelpPage(args.Y);
+    }
+}
+
+void HelpBox_Wheel(EventArgs& args) {
+    scrollHelpPage(args.Steps);
+}
+
 }  // namespace ombrelia

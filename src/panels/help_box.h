@@ -30,5 +30,7 @@ void HelpBox_ScrollerMove(EventArgs& args);
 void HelpBox_ScrollerUp(EventArgs& args);
 void HelpBox_ArrowDown(EventArgs& args);
 void HelpBox_ArrowUp(EventArgs& args);
+void HelpBox_FillerDown(EventArgs& args);
+void HelpBox_Wheel(EventArgs& args);
 
 }  // namespace ombrelia

@@ -7,6 +7,7 @@
 #include "core/objects.h"
 #include "core/option_strip_table.h"
 #include "core/windows/help_box.h"
+#include "panels/sliders.h"
 #include "platform/dispatch.h"
 #include "platform/numeric.h"
 #include "platform/window_life.h"
@@ -49,8 +50,13 @@ bool canScroll() {
     return record().Max > record().Min;
 }
 
-void scrollBy(int step) {
-    record().Value = narrowTo<std::int16_t>(record().Value + step);
+// Up to the page's ends.
+void scrollBy(int units) {
+    if (!canScroll()) {
+        return;
+    }
+    const int value = std::clamp<int>(record().Value + units, record().Min, record().Max);
+    record().Value = static_cast<std::int16_t>(value);
     placeThumb();
     placePage();
 }
@@ -117,6 +123,16 @@ void scrollHeldPageArrow() {
     if (HelpMouseState == kGestureScrollDown && record().Value <= record().Max - kArrowStep) {
         scrollBy(kArrowStep);
     }
+}
+
+void scrollHelpPage(int steps) {
+    scrollBy(steps * kArrowStep);
+}
+
+void turnHelpPage(float yTwips) {
+    const double y = track().Top + yTwips / kTwipsPerPixel;
+    const double sight = HelpBox.Picture1.Height - kArrowStep;
+    scrollBy(roundToInt16(sight) * sideOf(thumb().Top, thumb().Height, y));
 }
 
 }  // namespace ombrelia

@@ -17,4 +17,11 @@ void holdPageArrow(bool isUp);
 void releasePageArrow(bool isUp);
 void scrollHeldPageArrow();
 
+// Scrolls the page by so many steps of an arrow, down above 0, up to its ends.
+void scrollHelpPage(int steps);
+
+// A press on the track: the page goes on by what was in sight, less a step of an arrow, towards the
+// press; yTwips from the track's top edge.
+void turnHelpPage(float yTwips);
+
 }  // namespace ombrelia

@@ -23,6 +23,10 @@ constexpr int kEndRoom = 12;
 constexpr int kHeldFace = 1;
 constexpr int kFreeFace = 0;
 
+void scrollStripBy(int units) {
+    setSlider(slider::kStrip, SliderValues(slider::kStrip).Value + units);
+}
+
 }  // namespace
 
 void layOutOptionFrames() {
@@ -59,15 +63,22 @@ void ScrollToFrame(int frame) {
 }
 
 void scrollHeldArrow() {
-    SliderRecord& strip = SliderValues(slider::kStrip);
+    const SliderRecord& strip = SliderValues(slider::kStrip);
     if (MouseState == kGestureScrollUp && strip.Value >= kArrowStep) {
-        strip.Value = narrowTo<std::int16_t>(strip.Value - kArrowStep);
-        PlaceSlider(slider::kStrip);
+        scrollStrip(-1);
     }
     if (MouseState == kGestureScrollDown && strip.Value <= strip.Max - kArrowStep) {
-        strip.Value = narrowTo<std::int16_t>(strip.Value + kArrowStep);
-        PlaceSlider(slider::kStrip);
+        scrollStrip(1);
     }
+}
+
+void scrollStrip(int steps) {
+    scrollStripBy(steps * kArrowStep);
+}
+
+void pageStrip(float yTwips) {
+    const double y = Form1.Filler(0).Top + yTwips / kTwipsPerPixel;
+    scrollStripBy(page::kPitch * sideOf(Form1.Scroller(0).Top, Form1.Scroller(0).Height, y));
 }
 
 void holdArrow(bool isUp) {

@@ -15,6 +15,12 @@ void ScrollToFrame(int frame);
 // The share of the editor's timer: a held arrow scrolls the strip.
 void scrollHeldArrow();
 
+// Scrolls the strip by so many steps of an arrow, down above 0, up to its ends.
+void scrollStrip(int steps);
+
+// A press on the bar's track: the strip goes a page towards it; yTwips from the track's top edge.
+void pageStrip(float yTwips);
+
 // Presses and releases of the two arrows.
 void holdArrow(bool isUp);
 void releaseArrow(bool isUp);

@@ -113,6 +113,10 @@ void setSlider(int i, int value) {
     }
 }
 
+int sideOf(double thumbStart, double thumbLength, double point) {
+    return point < thumbStart ? -1 : point >= thumbStart + thumbLength ? 1 : 0;
+}
+
 void grabThumb(float xTwips) {
     ThumbGrab = roundToInt16(static_cast<double>(xTwips) / kTwipsPerPixel);
 }

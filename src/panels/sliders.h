@@ -15,6 +15,10 @@ void showReadout(int i);
 // Gives slider 0 or of the pages a value, kept in its range, as a drag of its thumb would.
 void setSlider(int i, int value);
 
+// On which side of a thumb, which begins at a place and has a length, a point lies: -1 before it, 1
+// behind it, 0 on it.
+int sideOf(double thumbStart, double thumbLength, double point);
+
 // A drag of the thumb of slider i: the press, then every move; xTwips from the thumb's left edge.
 // The press counts as a move too.
 void grabThumb(float xTwips);

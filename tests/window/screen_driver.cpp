@@ -202,6 +202,13 @@ void ScreenDriver::doubleClick(Control& control) {
     rest();
 }
 
+void ScreenDriver::turnWheel(int notches) {
+    const int count = std::abs(notches);
+    tell("click --repeat " + std::to_string(count) + " --delay 40 " + (notches < 0 ? "4" : "5"),
+         InputKind::ButtonPress, count);
+    rest();
+}
+
 void ScreenDriver::clickAt(const QPoint& place) {
     movePointer(place);
     press();

@@ -42,6 +42,8 @@ class ScreenDriver {
     void click(Control& control);
     void click(Control& control, double x, double y);
     void doubleClick(Control& control);
+    // Turns the wheel by so many notches, down above 0, where the mouse is.
+    void turnWheel(int notches);
     // The same for what the toolkit shows by itself: a place on the screen.
     void clickAt(const QPoint& place);
 

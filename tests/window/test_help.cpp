@@ -105,6 +105,29 @@ TEST(HelpWindow, the_contents_and_the_buttons_lead_to_every_page) {
     });
 }
 
+TEST(HelpWindow, the_wheel_scrolls_a_long_page) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openHelp(driver));
+        driver.inProgram([] { EXPECT_FALSE(HelpBox.Scroller(slider::kHelpPage).Visible); });
+        driver.click(HelpBox.LTool(button::kHelpContents + kIconsPage - 1));
+        driver.moveTo(HelpBox.Picture1);
+        driver.turnWheel(2);
+        driver.inProgram([] {
+            EXPECT_TRUE(HelpBox.Scroller(slider::kHelpPage).Visible);
+            EXPECT_EQ(HelpBox.Topic(kIconsPage).Top, -90);
+        });
+        driver.turnWheel(30);
+        driver.inProgram([] {
+            EXPECT_EQ(SliderValues(slider::kHelpPage).Value, SliderValues(slider::kHelpPage).Max);
+        });
+        driver.turnWheel(-1);
+        driver.inProgram([] {
+            const SliderRecord& bar = SliderValues(slider::kHelpPage);
+            EXPECT_EQ(bar.Value, bar.Max - 45);
+        });
+    });
+}
+
 TEST(HelpWindow, each_link_leads_to_its_page_and_back_to_the_parent) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openHelp(driver));

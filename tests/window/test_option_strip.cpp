@@ -123,6 +123,34 @@ TEST(OptionStrip, the_bar_the_arrows_and_a_drag_move_the_strip) {
     });
 }
 
+TEST(OptionStrip, the_wheel_and_clicks_on_the_track_scroll_the_strip) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        const auto expectStripAt = [&driver](int value) {
+            driver.inProgram([value] {
+                EXPECT_EQ(SliderValues(0).Value, value);
+                EXPECT_EQ(Form1.OptFrame(0).Top, -value);
+            });
+        };
+        bringUp(driver, 2);
+        driver.moveTo(Form1.OptFrame(2), 20, 100);
+        driver.turnWheel(3);
+        expectStripAt(256 + 3 * 45);
+        driver.turnWheel(-1);
+        expectStripAt(256 + 2 * 45);
+        driver.moveTo(Form1.Filler(0), 10, 215);
+        driver.turnWheel(-2);
+        expectStripAt(256);
+        driver.turnWheel(-8);
+        expectStripAt(0);
+        driver.click(Form1.Filler(0), 10, 215);
+        expectStripAt(128);
+        driver.moveTo(Form1.MapView, 60, 60);
+        driver.turnWheel(2);
+        expectStripAt(128);
+    });
+}
+
 TEST(OptionStrip, each_check_mark_toggles_at_a_click) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openEditor(driver, button::kSizeSmall));

@@ -5,8 +5,10 @@
 #include "core/windows/help_box.h"
 #include "editor_fixture.h"
 #include "panels/help_box.h"
+#include "panels/help_scroller.h"
 #include "panels/second_help_table.h"
 #include "platform/dispatch.h"
+#include "platform/pointer.h"
 #include "platform/window_life.h"
 
 namespace ombrelia {
@@ -277,6 +279,82 @@ TEST_F(Help, the_thumb_stays_when_the_pointer_leaves_the_track) {
     deliverMouse(thumb, Event::MouseMove, MouseButton::Left, 5, 2000);
     EXPECT_EQ(thumb.Top, top);
     EXPECT_EQ(SliderValues(20).Value, 0);
+}
+
+TEST_F(Help, a_press_on_the_thumb_leaves_every_value) {
+    GotoTopic(4);
+    Image& thumb = HelpBox.Scroller(20);
+    const int most = SliderValues(20).Max;
+    while (SliderValues(20).Value < most) {
+        scrollHelpPage(1);
+        const int before = SliderValues(20).Value;
+        const double top = thumb.Top;
+        for (int y = 0; y < thumb.Height; ++y) {
+            deliverMouse(thumb, Event::MouseDown, MouseButton::Left, 5, y);
+            deliverMouse(thumb, Event::MouseUp, MouseButton::Left, 5, y);
+            ASSERT_EQ(SliderValues(20).Value, before) << y;
+            ASSERT_EQ(thumb.Top, top) << y;
+        }
+    }
+}
+
+void expectHelpPageAt(int value) {
+    EXPECT_EQ(SliderValues(20).Value, value);
+    EXPECT_EQ(HelpBox.Topic(CurrentTopic).Top, -value);
+    const double room = HelpBox.Filler(20).Height - HelpBox.Scroller(20).Height;
+    EXPECT_DOUBLE_EQ(
+        HelpBox.Scroller(20).Top,
+        static_cast<double>(value) / SliderValues(20).Max * room + HelpBox.Filler(20).Top);
+}
+
+TEST_F(Help, the_wheel_scrolls_the_page_to_its_very_ends_wherever_it_turns) {
+    GotoTopic(4);
+    const int most = SliderValues(20).Max;
+    ASSERT_GT(most, 100);
+    const auto turn = [](double x, double y, double notches) {
+        pointerInput(HelpBox, 1, {PointerKind::Wheel, x, y, MouseButton::None, notches});
+    };
+    turn(300, 200, 1);  // on the page
+    expectHelpPageAt(45);
+    turn(545, 150, 1);  // on the bar
+    expectHelpPageAt(90);
+    turn(30, 60, -1);  // on a button
+    expectHelpPageAt(45);
+    turn(300, 200, 100);
+    expectHelpPageAt(most);
+    turn(300, 200, -100);
+    expectHelpPageAt(0);
+}
+
+TEST_F(Help, the_wheel_leaves_a_page_that_is_all_in_sight) {
+    GotoTopic(5);
+    pointerInput(HelpBox, 1, {PointerKind::Wheel, 300, 200, MouseButton::None, 1});
+    EXPECT_EQ(SliderValues(20).Value, 0);
+    EXPECT_EQ(HelpBox.Topic(5).Top, 0);
+}
+
+TEST_F(Help, a_press_on_the_track_goes_on_by_what_is_in_sight) {
+    GotoTopic(4);
+    SliderValues(20).Max = 1000;  // a page longer than any
+    const auto press = [](double y, MouseButton button = MouseButton::Left) {
+        deliverMouse(HelpBox.Filler(20), Event::MouseDown, button, 5, y);
+    };
+    press(270);
+    expectHelpPageAt(304);  // 313 are in sight
+    press(270, MouseButton::Right);
+    expectHelpPageAt(304);
+    press(270);
+    press(0);
+    expectHelpPageAt(304);
+    for (int i = 0; i < 4; ++i) {
+        press(276);
+    }
+    expectHelpPageAt(1000);
+    press(276);  // the thumb itself
+    expectHelpPageAt(1000);
+    GotoTopic(5);
+    press(270);
+    EXPECT_EQ(HelpBox.Topic(5).Top, 0);
 }
 
 TEST_F(Help, the_thumb_is_seen_where_the_page_can_be_scrolled) {

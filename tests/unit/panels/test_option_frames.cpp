@@ -1,13 +1,17 @@
 #include <cmath>
+#include <initializer_list>
 
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/option_strip_table.h"
 #include "core/windows/form1.h"
+#include "core/windows/small_windows.h"
 #include "desk/run_command.h"
 #include "editor_fixture.h"
 #include "panels/option_frames.h"
 #include "panels/sliders.h"
+#include "platform/dispatch.h"
+#include "platform/pointer.h"
 
 namespace ombrelia {
 
@@ -196,6 +200,111 @@ TEST_F(OptionFrames, the_strips_thumb_held_by_its_middle_shows_the_last_page) {
     const PictureBox& last = Form1.OptFrame(14);
     const double seen = Form1.Picture1.innerHeight() - last.Top;
     EXPECT_GT(seen, last.Height / 2);
+}
+
+class StripByWheel : public OptionFrames {
+  protected:
+    // At a place in units from the part's corner.
+    static void turn(const Control& part, double x, double y, double notches, double scale = 1) {
+        const Point corner = cornerInWindow(part);
+        pointerInput(Form1, scale,
+                     {PointerKind::Wheel, (corner.x + x) * scale, (corner.y + y) * scale,
+                      MouseButton::None, notches});
+    }
+};
+
+TEST_F(StripByWheel, a_notch_is_five_steps_of_an_arrow_wherever_on_the_strip) {
+    set(128);
+    turn(Form1.OptFrame(1), 3, 40, 1);
+    EXPECT_EQ(value(), 128 + 45);
+    expectFramesFollow();
+    EXPECT_EQ(
+        Form1.Scroller(0).Top,
+        173.0 / most() * (Form1.Filler(0).Height - Form1.Scroller(0).Height) + Form1.Filler(0).Top);
+    set(128);
+    for (const Control* part : std::initializer_list<const Control*>{
+             &Form1.VertScroller(2), &Form1.VertFiller(2), &Form1.OptLabel(1), &Form1.Scroller(0),
+             &Form1.Filler(0), &Form1.ScrollUp(0), &Form1.ScrollDown(0)}) {
+        for (const double scale : {1.0, 1.25, 2.5, 4.0}) {
+            turn(*part, 2, 2, 2, scale);
+            EXPECT_EQ(value(), 128 + 90) << part->Name << " at " << scale;
+            set(128);
+        }
+    }
+}
+
+TEST_F(StripByWheel, the_strip_stops_at_its_ends) {
+    set(10);
+    turn(Form1.Picture1, 3, 40, -1);
+    EXPECT_EQ(value(), 0);
+    turn(Form1.Picture1, 3, 40, -1);
+    EXPECT_EQ(value(), 0);
+    set(most() - 5);
+    turn(Form1.Picture1, 3, 40, 1);
+    EXPECT_EQ(value(), most());
+    turn(Form1.Picture1, 3, 40, 1000);
+    EXPECT_EQ(value(), most());
+    expectFramesFollow();
+}
+
+TEST_F(StripByWheel, the_strip_stands_still_beside_it_and_while_its_page_is_locked) {
+    set(128);
+    turn(Form1.MapView, 30, 30, 1);
+    turn(Form1.Label11, 30, 5, 1);
+    Form1.OptFrame(1).Enabled = false;
+    turn(Form1.OptFrame(1), 3, 40, 1);
+    EXPECT_EQ(value(), 128);
+    Form1.OptFrame(1).Enabled = true;
+    turn(Form1.OptFrame(1), 3, 40, 1);
+    EXPECT_EQ(value(), 173);
+}
+
+TEST_F(StripByWheel, a_held_page_is_not_torn_from_the_hand) {
+    set(128);
+    const Point corner = cornerInWindow(Form1.OptFrame(1));
+    pointerInput(Form1, 1, {PointerKind::Press, corner.x + 3, corner.y + 40, MouseButton::Left});
+    turn(Form1.OptFrame(1), 3, 40, 1);
+    EXPECT_EQ(value(), 128);
+    pointerInput(Form1, 1, {PointerKind::Release, corner.x + 3, corner.y + 40, MouseButton::Left});
+}
+
+// What comes under the pointer is told of, without a move of the mouse.
+TEST_F(StripByWheel, the_hint_follows_what_comes_under_the_pointer) {
+    set(0);
+    HelpFrm.HelpLbl.Caption = "nothing";
+    const PictureBox& frame = Form1.OptFrame(0);
+    turn(frame, Form1.VertScroller(1).Left + 3, Form1.VertScroller(1).Top + 50, 1);
+    EXPECT_EQ(value(), 45);
+    EXPECT_EQ(HelpFrm.HelpLbl.Caption, "Click && Drag here to scroll the box up or down.");
+    const Point thumb = cornerInWindow(Form1.VertScroller(2));
+    pointerInput(Form1, 1,
+                 {PointerKind::Wheel, thumb.x + 3, thumb.y - 45 + 3, MouseButton::None, 1});
+    EXPECT_EQ(HelpFrm.HelpLbl.Caption, slider::row(2).hint);
+}
+
+TEST_F(OptionFrames, a_press_on_the_bars_track_goes_a_page_towards_it) {
+    const auto press = [](double y, MouseButton button = MouseButton::Left) {
+        deliverMouse(Form1.Filler(0), Event::MouseDown, button, 5, y);
+    };
+    press(200);
+    EXPECT_EQ(value(), 128);
+    expectFramesFollow();
+    press(200);
+    EXPECT_EQ(value(), 256);
+    press(200, MouseButton::Right);
+    EXPECT_EQ(value(), 256);
+    press(0);
+    press(0);
+    EXPECT_EQ(value(), 0);
+    for (int i = 0; i < 20; ++i) {
+        press(220);
+    }
+    EXPECT_EQ(value(), most());
+    const double thumb = Form1.Scroller(0).Top - Form1.Filler(0).Top;
+    press(thumb + 5);  // beside nothing: the thumb itself
+    EXPECT_EQ(value(), most());
+    press(thumb - 1);
+    EXPECT_EQ(value(), most() - 128);
 }
 
 TEST_F(OptionFrames, a_fraction_of_a_frame_drag_is_rounded_down) {
