@@ -116,6 +116,12 @@ void VertScroller_MouseMove(EventArgs& args) {
     }
 }
 
+void VertFiller_MouseDown(EventArgs& args) {
+    if (args.Button == MouseButton::Left) {
+        stepSlider(args.Index, args.X);
+    }
+}
+
 void Slider_AskValue(EventArgs& args) {
     const SliderRecord& record = SliderValues(args.Index);
     args.Value = record.Value;

@@ -16,6 +16,7 @@ void Label32_DragDrop(EventArgs& args);
 void Ground_DragDrop(EventArgs& args);
 void VertScroller_MouseDown(EventArgs& args);
 void VertScroller_MouseMove(EventArgs& args);
+void VertFiller_MouseDown(EventArgs& args);
 void Slider_AskValue(EventArgs& args);
 void Slider_SetValue(EventArgs& args);
 void Scroller_MouseDown(EventArgs& args);

@@ -117,6 +117,12 @@ int sideOf(double thumbStart, double thumbLength, double point) {
     return point < thumbStart ? -1 : point >= thumbStart + thumbLength ? 1 : 0;
 }
 
+void stepSlider(int i, float xTwips) {
+    const Image& thumb = Form1.VertScroller(i);
+    const double x = Form1.VertFiller(i).Left + xTwips / kTwipsPerPixel;
+    setSlider(i, SliderValues(i).Value + sideOf(thumb.Left, thumb.Width, x));
+}
+
 void grabThumb(float xTwips) {
     ThumbGrab = roundToInt16(static_cast<double>(xTwips) / kTwipsPerPixel);
 }

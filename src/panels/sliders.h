@@ -19,6 +19,10 @@ void setSlider(int i, int value);
 // behind it, 0 on it.
 int sideOf(double thumbStart, double thumbLength, double point);
 
+// A press on the track of slider i: its value goes up or down by 1, towards the press; xTwips from
+// the track's left edge.
+void stepSlider(int i, float xTwips);
+
 // A drag of the thumb of slider i: the press, then every move; xTwips from the thumb's left edge.
 // The press counts as a move too.
 void grabThumb(float xTwips);

@@ -151,6 +151,19 @@ TEST(OptionStrip, the_wheel_and_clicks_on_the_track_scroll_the_strip) {
     });
 }
 
+TEST(OptionStrip, a_click_on_a_sliders_track_moves_it_by_one) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        bringUp(driver, frameOf(Form1.VertFiller(6)));
+        driver.click(Form1.VertFiller(6), 20, 8);
+        driver.click(Form1.VertFiller(6), 20, 8);
+        driver.inProgram([] { EXPECT_EQ(Form1.Readout(6).Caption, metresText(253)); });
+        driver.click(Form1.VertFiller(7), 100, 8);
+        driver.click(Form1.VertFiller(7), 100, 8);
+        driver.inProgram([] { EXPECT_EQ(Form1.Readout(7).Caption, "3"); });
+    });
+}
+
 TEST(OptionStrip, each_check_mark_toggles_at_a_click) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openEditor(driver, button::kSizeSmall));

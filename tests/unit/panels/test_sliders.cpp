@@ -5,8 +5,10 @@
 #include "core/option_strip_table.h"
 #include "core/windows/form1.h"
 #include "editor_fixture.h"
+#include "panels/option_frames.h"
 #include "panels/sliders.h"
 #include "platform/dispatch.h"
+#include "platform/pointer.h"
 
 namespace ombrelia {
 
@@ -210,6 +212,101 @@ TEST_F(Sliders, a_press_on_an_upright_thumb_leaves_every_value) {
             ASSERT_EQ(thumb.Top, top) << y;
         }
     }
+}
+
+class SliderTracks : public Sliders {
+  protected:
+    // In units from the track's left edge; by the rules of the pointer.
+    static void click(int i, double x, MouseButton button = MouseButton::Left) {
+        SliderValues(0).Value = 0;
+        ScrollToFrame(page::indexOf(slider::row(i).page));
+        const Point corner = cornerInWindow(Form1.VertFiller(i));
+        for (const PointerKind kind : {PointerKind::Press, PointerKind::Release}) {
+            pointerInput(Form1, 1, {kind, corner.x + x, corner.y + 8, button});
+        }
+    }
+
+    static int valueOf(int i) { return SliderValues(i).Value; }
+};
+
+TEST_F(SliderTracks, a_click_moves_every_value_by_one_towards_it) {
+    for (const TypedSlider& row : kTyped) {
+        set(12, 5);
+        set(13, 20);
+        const int middle = (row.min + row.max) / 2;
+        setSlider(row.number, middle);
+        const std::string before = Form1.Readout(row.number).Caption;
+        const double end = Form1.VertFiller(row.number).Width - 1;
+        click(row.number, end);
+        EXPECT_EQ(valueOf(row.number), middle + 1) << row.number;
+        EXPECT_NE(Form1.Readout(row.number).Caption, before) << row.number;
+        EXPECT_NEAR(place(row.number),
+                    (middle + 1.0 - row.min) / (row.max - row.min) * room(row.number), kNear);
+        click(row.number, 0);
+        EXPECT_EQ(valueOf(row.number), middle) << row.number;
+        EXPECT_EQ(Form1.Readout(row.number).Caption, before) << row.number;
+        click(row.number, 0);
+        EXPECT_EQ(valueOf(row.number), middle - 1) << row.number;
+    }
+}
+
+// Where a step is less than a unit, the thumb covers the last unit of its track before it is at
+// the end.
+TEST_F(SliderTracks, clicks_lead_to_either_end_and_no_further) {
+    for (const TypedSlider& row : kTyped) {
+        const double end = Form1.VertFiller(row.number).Width - 1;
+        const bool isFine = row.max - row.min > room(row.number);
+        set(12, 2);
+        set(13, 25);
+        setSlider(row.number, row.max - 3);
+        for (int n = 0; n < 4; ++n) {
+            click(row.number, end);
+        }
+        EXPECT_GE(valueOf(row.number), isFine ? row.max - 2 : row.max) << row.number;
+        EXPECT_LE(valueOf(row.number), row.max) << row.number;
+        set(12, 2);
+        setSlider(row.number, row.min + 2);
+        for (int n = 0; n < 4; ++n) {
+            click(row.number, 0);
+        }
+        EXPECT_EQ(valueOf(row.number), row.min) << row.number;
+    }
+}
+
+TEST_F(SliderTracks, only_the_left_button_counts) {
+    setSlider(6, 100);
+    click(6, 100, MouseButton::Right);
+    click(6, 100, MouseButton::Middle);
+    EXPECT_EQ(valueOf(6), 100);
+}
+
+TEST_F(SliderTracks, a_locked_page_keeps_its_values) {
+    setSlider(6, 100);
+    Form1.OptFrame(page::indexOf(page::kMountain)).Enabled = false;
+    click(6, 100);
+    EXPECT_EQ(valueOf(6), 100);
+}
+
+TEST_F(SliderTracks, the_bank_stays_wider_than_the_river) {
+    set(12, 9);
+    setSlider(13, 10);
+    click(12, 125);
+    EXPECT_EQ(valueOf(12), 10);
+    EXPECT_EQ(valueOf(13), 11);
+    click(13, 0);
+    EXPECT_EQ(valueOf(13), 10);
+    EXPECT_EQ(valueOf(12), 9);
+}
+
+// A track is the window's background to the hints and to the buttons beside it.
+TEST_F(SliderTracks, the_pointer_over_a_track_is_over_no_button) {
+    deliverMouse(Form1.NTool(0), Event::MouseMove, MouseButton::None, 3, 3);
+    ASSERT_EQ(OptionStates(0).State, 1);
+    deliverMouse(Form1.VertFiller(1), Event::MouseMove, MouseButton::None, 60, 3);
+    EXPECT_EQ(OptionStates(0).State, 0);
+    OptionStates(18).State = 2;
+    deliverMouse(Form1.VertFiller(1), Event::Click, MouseButton::Left, 60, 3);
+    EXPECT_EQ(OptionStates(18).State, 0);
 }
 
 TEST_F(Sliders, tracks_end_before_their_readouts_and_nearly_together) {
