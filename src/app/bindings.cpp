@@ -55,6 +55,7 @@ const Binding kBindings[] = {
     {&frmSplash, Event::Load, frmSplash_Load},
     {&frmSplash, Event::Click, frmSplash_Click},
     {&frmSplash, Event::Close, frmSplash_Click},
+    {&frmSplash, Event::KeyDown, frmSplash_KeyDown},
     {&frmSplash.Timer1, Event::Timer, frmSplash_Timer},
 
     {&SizeSelect, Event::Load, SizeSelect_Load},
@@ -149,6 +150,7 @@ const Binding kBindings[] = {
 
     {&HelpBox, Event::Load, HelpBox_Load},
     {&HelpBox, Event::MouseMove, HelpBox_GroundMove},
+    {&HelpBox, Event::KeyDown, HelpBox_KeyDown},
     {&HelpBox, Event::Wheel, HelpBox_Wheel},
     {&HelpBox.Topic, Event::MouseMove, HelpBox_GroundMove},
     {&HelpBox.Picture1, Event::MouseMove, HelpBox_GroundMove},

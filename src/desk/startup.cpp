@@ -18,6 +18,7 @@
 #include "panels/color_editor.h"
 #include "panels/cursors_sounds.h"
 #include "platform/dispatch.h"
+#include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
 #include "views/map2d/map_transform.h"
@@ -133,6 +134,13 @@ void frmSplash_Click(EventArgs& args) {
     frmSplash_Timer(args);
     if (SplashMode == 1) {
         unloadWindow(frmSplash);
+    }
+}
+
+// Escape leaves the About box; the splash of the start waits for its time or a click.
+void frmSplash_KeyDown(EventArgs& args) {
+    if (args.KeyCode == key::kEscape && SplashMode == 1) {
+        frmSplash_Click(args);
     }
 }
 

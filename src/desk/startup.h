@@ -21,6 +21,7 @@ void repairAfterFailure();
 void frmSplash_Load(EventArgs& args);
 void frmSplash_Timer(EventArgs& args);
 void frmSplash_Click(EventArgs& args);
+void frmSplash_KeyDown(EventArgs& args);
 void SizeSelect_Load(EventArgs& args);
 void SizeSelect_Close(EventArgs& args);
 void SizeSelect_Choose(EventArgs& args);

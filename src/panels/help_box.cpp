@@ -11,6 +11,7 @@
 #include "core/windows/help_texts_table.h"
 #include "panels/cursors_sounds.h"
 #include "panels/help_scroller.h"
+#include "platform/key_codes.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
 
@@ -254,6 +255,12 @@ void HelpBox_FillerDown(EventArgs& args) {
 
 void HelpBox_Wheel(EventArgs& args) {
     scrollHelpPage(args.Steps);
+}
+
+void HelpBox_KeyDown(EventArgs& args) {
+    if (args.KeyCode == key::kEscape) {
+        unloadWindow(HelpBox);
+    }
 }
 
 }  // namespace ombrelia

@@ -32,5 +32,6 @@ void HelpBox_ArrowDown(EventArgs& args);
 void HelpBox_ArrowUp(EventArgs& args);
 void HelpBox_FillerDown(EventArgs& args);
 void HelpBox_Wheel(EventArgs& args);
+void HelpBox_KeyDown(EventArgs& args);
 
 }  // namespace ombrelia

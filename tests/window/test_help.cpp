@@ -105,7 +105,7 @@ TEST(HelpWindow, the_contents_and_the_buttons_lead_to_every_page) {
     });
 }
 
-TEST(HelpWindow, the_wheel_scrolls_a_long_page) {
+TEST(HelpWindow, the_wheel_scrolls_a_long_page_and_escape_closes_the_window) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openHelp(driver));
         driver.inProgram([] { EXPECT_FALSE(HelpBox.Scroller(slider::kHelpPage).Visible); });
@@ -125,6 +125,9 @@ TEST(HelpWindow, the_wheel_scrolls_a_long_page) {
             const SliderRecord& bar = SliderValues(slider::kHelpPage);
             EXPECT_EQ(bar.Value, bar.Max - 45);
         });
+        driver.key("Escape");
+        EXPECT_TRUE(driver.waitFor([] { return !HelpBox.Loaded; }));
+        driver.inProgram([] { EXPECT_TRUE(Form1.Visible); });
     });
 }
 

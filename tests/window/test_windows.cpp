@@ -99,6 +99,20 @@ TEST(Windows, the_whole_title_bar_goes_dark_behind_another_window) {
     });
 }
 
+TEST(Windows, escape_closes_the_about_box) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeSmall));
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kAbout);
+        ASSERT_TRUE(driver.waitForWindow(frmSplash));
+        driver.key("space");
+        driver.inProgram([] { EXPECT_TRUE(frmSplash.Visible); });
+        driver.key("Escape");
+        EXPECT_TRUE(driver.waitFor([] { return !frmSplash.Loaded; }));
+        driver.inProgram([] { EXPECT_TRUE(Form1.Visible); });
+    });
+}
+
 TEST(Windows, minimize_takes_the_editor_off_the_screen) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openEditor(driver, button::kSizeSmall));

@@ -10,6 +10,8 @@
 #include "editor_fixture.h"
 #include "pixel_at.h"
 #include "platform/dispatch.h"
+#include "platform/key_codes.h"
+#include "platform/pointer.h"
 #include "platform/window_life.h"
 #include "register/reset_process.h"
 
@@ -43,6 +45,22 @@ TEST_F(Startup, the_splash_gives_way_to_the_size_dialog_by_itself) {
     EXPECT_FALSE(SizeSelect.Visible);
     deliver(frmSplash.Timer1, Event::Timer);
     EXPECT_EQ(platform.Calls, (Log{"show frmSplash", "unload frmSplash", "show SizeSelect"}));
+}
+
+TEST_F(Startup, escape_leaves_the_about_box_but_not_the_splash) {
+    runHandler(startEditor);
+    keyInput(frmSplash, key::kEscape);
+    EXPECT_TRUE(frmSplash.Loaded);
+    EXPECT_FALSE(SizeSelect.Visible);
+    deliver(frmSplash, Event::Click);
+    choose(80);
+    showWindow(frmSplash);
+    keyInput(frmSplash, key::kReturn);
+    EXPECT_TRUE(frmSplash.Loaded);
+    keyInput(frmSplash, key::kEscape);
+    EXPECT_FALSE(frmSplash.Loaded);
+    EXPECT_FALSE(SizeSelect.Visible);
+    EXPECT_TRUE(Form1.Visible);
 }
 
 TEST_F(Startup, each_button_of_the_size_dialog_goes_out_behind_the_pointer) {

@@ -8,6 +8,7 @@
 #include "panels/help_scroller.h"
 #include "panels/second_help_table.h"
 #include "platform/dispatch.h"
+#include "platform/key_codes.h"
 #include "platform/pointer.h"
 #include "platform/window_life.h"
 
@@ -369,6 +370,16 @@ TEST_F(Help, the_thumb_is_seen_where_the_page_can_be_scrolled) {
     unloadWindow(HelpBox);
     showWindow(HelpBox);
     EXPECT_FALSE(HelpBox.Scroller(20).Visible) << "the contents are short";
+}
+
+TEST_F(Help, escape_closes_the_window_and_no_other_key) {
+    for (const int code : {key::kReturn, key::kSpace, key::kF1, key::kBackspace}) {
+        keyInput(HelpBox, code);
+        EXPECT_TRUE(HelpBox.Loaded) << code;
+    }
+    keyInput(HelpBox, key::kEscape);
+    EXPECT_FALSE(HelpBox.Loaded);
+    EXPECT_TRUE(Form1.Visible);
 }
 
 TEST_F(Help, the_pointer_lights_one_button_at_a_time) {
