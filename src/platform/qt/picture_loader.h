@@ -1,5 +1,5 @@
-// Pictures from files: bitmaps, Targa, PNG and JPEG row by row by our own readers, everything else by
-// the toolkit's.
+// Pictures from files: bitmaps, Targa, PNG and JPEG row by row by our own readers, everything else
+// by the toolkit's.
 #pragma once
 
 #include <string>
