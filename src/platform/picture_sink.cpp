@@ -51,6 +51,7 @@ PictureSink::PictureSink(const std::string& path, std::int64_t width, std::int64
     PictureGrid grid = wish.gridFor(across, down);
     grid.columns = cut(grid.columns, grid.stepX, across);
     grid.rows = cut(grid.rows, grid.stepY, down);
+    areRowsAlike_ = grid.stepX == 1 && !turn.exchangesAxes && !turn.mirrorsX;
     try {
         picture.setSize(grid.columns, grid.rows);
         columnPlaces_ = placesAlong(across, grid.stepX, grid.columns, turn.mirrorsX);
@@ -75,6 +76,10 @@ Pixel& PictureSink::at(int xPlace, int yPlace) {
 void PictureSink::putRow(int y, const Pixel* pixels) {
     const int yPlace = rowPlaces_[static_cast<std::size_t>(y)];
     if (yPlace < 0) {
+        return;
+    }
+    if (areRowsAlike_) {
+        std::copy_n(pixels, picture_.width(), picture_.row(yPlace));
         return;
     }
     for (const int x : keptColumns_) {

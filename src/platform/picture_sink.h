@@ -72,6 +72,7 @@ class PictureSink {
     std::vector<int> columnPlaces_;  // of each column of the file; -1 where it is not kept
     std::vector<int> rowPlaces_;     // of each row of the file
     std::vector<int> keptColumns_;   // those that are kept
+    bool areRowsAlike_ = false;      // a kept row begins as the file's
 };
 
 }  // namespace ombrelia

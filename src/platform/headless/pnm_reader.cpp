@@ -89,13 +89,15 @@ void readPortableMap(ByteSource& source, PictureWish& wish, Surface& picture) {
     }
     PictureSink sink(source.path(), width, height, wish, picture);
     const auto next = [&] { return isInBytes ? text.byte() : text.number(); };
+    std::vector<Pixel> row(width);
     for (int y = 0; y < static_cast<int>(height); ++y) {
-        for (int x = 0; x < static_cast<int>(width); ++x) {
+        for (Pixel& pixel : row) {
             const unsigned red = next();
             const unsigned green = isGrey ? red : next();
             const unsigned blue = isGrey ? red : next();
-            sink.putPixel(x, y, pixelOf(rgb(red, green, blue)));
+            pixel = pixelOf(rgb(red, green, blue));
         }
+        sink.putRow(y, row.data());
     }
     picture.changed();
 }
