@@ -5,6 +5,7 @@
 
 #include "files/bitmap_import.h"
 #include "pixel_at.h"
+#include "platform/bmp_header.h"
 #include "platform/bmp_reader.h"
 #include "platform/byte_source.h"
 #include "platform/failure.h"
