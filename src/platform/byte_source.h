@@ -47,9 +47,6 @@ class FileSource : public ByteSource {
     std::uint64_t size() const override { return size_; }
     void read(std::uint64_t offset, std::span<std::uint8_t> into) override;
 
-    // The system's number of the open file, whose place is its begin.
-    int handle() const { return handle_; }
-
   private:
     int handle_ = -1;
     std::uint64_t size_ = 0;
