@@ -65,7 +65,7 @@ QPushButton:disabled { color: @edge_hi; }
 QPushButton:hover, QPushButton:focus { border-color: @over_line; }
 QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 @over_hi, stop:1 @over_lo); }
 QPushButton:pressed { background: @well; border-color: @amber; }
-QComboBox, QLineEdit { min-height: %4px; }
+QComboBox, QLineEdit { min-height: %4px; font-size: %1px; }
 QAbstractItemView::item { padding: %5px 0px; })";
 
 // %1 margin, %2 text width.

@@ -1,6 +1,5 @@
 #include "platform/qt/qt_services.h"
 
-#include <QColorDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +13,7 @@
 
 #include "platform/binary_file.h"
 #include "platform/picture_kinds_table.h"
+#include "platform/qt/color_dialog.h"
 #include "platform/qt/dialog_dress.h"
 #include "platform/qt/file_dialog.h"
 #include "platform/qt/palette_style.h"
@@ -138,13 +138,13 @@ std::string QtDialogs::askFile(const std::string& title, const QStringList& filt
 
 Color QtDialogs::askColor(const std::string& title, Color start) {
     dressApplication(desktop_.scale());
-    QColorDialog dialog(toolkitColor(start), desktop_.dialogParent());
+    ColorDialog dialog(desktop_.dialogParent(), toolkitColor(start), desktop_.scale());
     dialog.setWindowTitle(QString::fromStdString(title));
     dressDialog(dialog, desktop_.scale());
     if (dialog.exec() != QDialog::Accepted) {
         return start;
     }
-    const QColor chosen = dialog.selectedColor();
+    const QColor chosen = dialog.color();
     return rgb(static_cast<unsigned>(chosen.red()), static_cast<unsigned>(chosen.green()),
                static_cast<unsigned>(chosen.blue()));
 }
