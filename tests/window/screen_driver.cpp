@@ -235,28 +235,23 @@ bool ScreenDriver::waitForDialog(const std::string& title) {
     return isThere;
 }
 
-bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {
-    if (!waitForDialog(title)) {
-        return false;
-    }
-    constexpr int kTries = 3;
+bool ScreenDriver::happens(const std::function<bool()>& holds) {
     constexpr int kLooks = 150;
-    QWidget* dialog = nullptr;
+    bool holdsNow = false;
+    for (int look = 0; look < kLooks && !holdsNow; ++look) {
+        rest(20);
+        inProgram([&] { holdsNow = holds(); });
+    }
+    return holdsNow;
+}
+
+bool ScreenDriver::typeName(const std::string& path) {
     const QLineEdit* line = nullptr;
     QPoint place;
     inProgram([&] {
-        dialog = QApplication::activeModalWidget();
-        line = dialog->findChild<QLineEdit*>();
+        line = QApplication::activeModalWidget()->findChild<QLineEdit*>();
         place = line->mapToGlobal(line->rect().center());
     });
-    const auto happens = [this](const std::function<bool()>& holds) {
-        bool holdsNow = false;
-        for (int look = 0; look < kLooks && !holdsNow; ++look) {
-            rest(20);
-            inProgram([&] { holdsNow = holds(); });
-        }
-        return holdsNow;
-    };
     type(path);
     // On a busy machine letters may come before the line has the keyboard.
     const auto isTyped = [&] { return line->text().toStdString() == path; };
@@ -268,14 +263,27 @@ bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {
         key("ctrl+a");
         type(path);
     }
-    // The first one may close the list of names that begin so.
+    return true;
+}
+
+bool ScreenDriver::returnUntil(const std::function<bool()>& holds) {
     for (int i = 0; i < kTries; ++i) {
         key("Return");
-        if (happens([&] { return QApplication::activeModalWidget() != dialog; })) {
+        if (happens(holds)) {
             return true;
         }
     }
     return false;
+}
+
+bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {
+    if (!waitForDialog(title)) {
+        return false;
+    }
+    const QWidget* dialog = nullptr;
+    inProgram([&] { dialog = QApplication::activeModalWidget(); });
+    return typeName(path) &&
+           returnUntil([&] { return QApplication::activeModalWidget() != dialog; });
 }
 
 std::string ScreenDriver::dialogText() {

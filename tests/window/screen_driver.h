@@ -55,6 +55,13 @@ class ScreenDriver {
     bool waitForDialog(const std::string& title);
     std::string dialogText();
 
+    // Types a name into the line of the file dialog in front; false if its letters get lost.
+    bool typeName(const std::string& path);
+
+    // Presses Return, and again where a list of names that begin so took it for itself; false if
+    // nothing comes of it.
+    bool returnUntil(const std::function<bool()>& holds);
+
     // Names a file in the file dialog with this title. False if it does not come, does not take the
     // name, or stays.
     bool nameFile(const std::string& title, const std::string& path);
@@ -71,6 +78,10 @@ class ScreenDriver {
     void rest(int milliseconds = 120);
 
   private:
+    static constexpr int kTries = 3;
+    // Looks for three seconds.
+    bool happens(const std::function<bool()>& holds);
+
     std::atomic<bool> hasEnded_ = false;
     HeardEvents heard_{};
     QPoint pointer_{-1, -1};  // where the mouse was moved to last

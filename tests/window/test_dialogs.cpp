@@ -15,7 +15,6 @@
 #include <QTemporaryDir>
 #include <QToolTip>
 #include <QTreeView>
-#include <functional>
 #include <gtest/gtest.h>
 
 #include "core/objects.h"
@@ -49,30 +48,18 @@ void write(const QString& path, const char* text) {
     file.write(text);
 }
 
-// The first one may close the list of names that begin so.
-bool returnUntil(ScreenDriver& driver, const std::function<bool()>& holds) {
-    constexpr int kTries = 3;
-    constexpr int kLooks = 50;
-    for (int i = 0; i < kTries * kLooks; ++i) {
-        if (i % kLooks == 0) {
-            driver.key("Return");
-        }
-        driver.rest(40);
-        bool holdsNow = false;
-        driver.inProgram([&] { holdsNow = holds(); });
-        if (holdsNow) {
-            return true;
-        }
-    }
-    return false;
+// Whether a box stands before the dialog and has the keyboard.
+bool isAnotherInFront(const QWidget* dialog) {
+    const QWidget* front = QApplication::activeModalWidget();
+    return front != nullptr && front != dialog && front->isActiveWindow();
 }
 
 // Names the file; the dialog answers it with a box of this text and stays.
 void expectSentBack(ScreenDriver& driver, const QString& path, const char* text) {
-    driver.type(path.toStdString());
+    ASSERT_TRUE(driver.typeName(path.toStdString()));
     QWidget* dialog = nullptr;
     driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
-    ASSERT_TRUE(returnUntil(driver, [&] { return QApplication::activeModalWidget() != dialog; }));
+    ASSERT_TRUE(driver.returnUntil([&] { return QApplication::activeModalWidget() != dialog; }));
     driver.rest(300);
     EXPECT_NE(driver.dialogText().find(text), std::string::npos) << driver.dialogText();
     driver.key("Return");
@@ -106,8 +93,8 @@ TEST(FileDialogs, what_holds_something_is_said_to_be_never_replaced) {
         driver.inProgram(
             [&] { EXPECT_TRUE(partOf<QLineEdit>("fileNameEdit")->text().endsWith("taken.bmp")); });
         // The name is selected: the next one takes its place.
-        driver.type(other.toStdString());
-        EXPECT_TRUE(returnUntil(driver, [&] { return QFileInfo(other).size() == 5498; }));
+        ASSERT_TRUE(driver.typeName(other.toStdString()));
+        EXPECT_TRUE(driver.returnUntil([&] { return QFileInfo(other).size() == 5498; }));
         EXPECT_EQ(QFileInfo(taken).size(), 9);
     });
 }
@@ -123,8 +110,7 @@ TEST(FileDialogs, an_empty_file_is_used_after_a_question) {
         expectSentBack(driver, empty, "empty");  // No is the default
         QWidget* dialog = nullptr;
         driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
-        ASSERT_TRUE(
-            returnUntil(driver, [&] { return QApplication::activeModalWidget() != dialog; }));
+        ASSERT_TRUE(driver.returnUntil([&] { return isAnotherInFront(dialog); }));
         driver.rest(300);
         driver.key("alt+y");
         EXPECT_TRUE(driver.waitFor([&] { return QFileInfo(empty).size() == 5498; }));
