@@ -266,9 +266,9 @@ bool ScreenDriver::typeName(const std::string& path) {
     return true;
 }
 
-bool ScreenDriver::returnUntil(const std::function<bool()>& holds) {
+bool ScreenDriver::keyUntil(const char* name, const std::function<bool()>& holds) {
     for (int i = 0; i < kTries; ++i) {
-        key("Return");
+        key(name);
         if (happens(holds)) {
             return true;
         }
@@ -283,7 +283,7 @@ bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {
     const QWidget* dialog = nullptr;
     inProgram([&] { dialog = QApplication::activeModalWidget(); });
     return typeName(path) &&
-           returnUntil([&] { return QApplication::activeModalWidget() != dialog; });
+           keyUntil("Return", [&] { return QApplication::activeModalWidget() != dialog; });
 }
 
 std::string ScreenDriver::dialogText() {

@@ -58,9 +58,9 @@ class ScreenDriver {
     // Types a name into the line of the file dialog in front; false if its letters get lost.
     bool typeName(const std::string& path);
 
-    // Presses Return, and again where a list of names that begin so took it for itself; false if
+    // Presses a key, and again where it gets lost or a list of names takes it for itself; false if
     // nothing comes of it.
-    bool returnUntil(const std::function<bool()>& holds);
+    bool keyUntil(const char* name, const std::function<bool()>& holds);
 
     // Names a file in the file dialog with this title. False if it does not come, does not take the
     // name, or stays.
