@@ -115,6 +115,7 @@ void FileDialog::accept() {
         return;
     }
     chosen_ = path;
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the other reads the name its own way
     QDialog::accept();
 }
 

@@ -68,7 +68,7 @@ QString allPictures() {
 
 // The folder of the last time if it is still there, else the user's own for this.
 QString startFolder(const std::string& last, const FilePurpose& purpose) {
-    const QString folder = QFile::decodeName(last.c_str());
+    QString folder = QFile::decodeName(last.c_str());
     if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
         return folder;
     }
