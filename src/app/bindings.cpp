@@ -207,16 +207,6 @@ const std::vector<Window*>& allWindows() {
     return windows;
 }
 
-std::vector<BoundRow> boundRows() {
-    std::vector<BoundRow> rows;
-    for (const Binding& row : kBindings) {
-        BoundRow bound{row.event, {}};
-        row.visitAll(row.part, [&bound](Control& control) { bound.controls.push_back(&control); });
-        rows.push_back(std::move(bound));
-    }
-    return rows;
-}
-
 void bindEvents() {
     for (Window* window : allWindows()) {
         window->Design();

@@ -7,13 +7,6 @@
 
 namespace ombrelia {
 
-// What a row of the table binds; nothing before the windows were designed.
-struct BoundRow {
-    Event event;
-    std::vector<Control*> controls;
-};
-std::vector<BoundRow> boundRows();
-
 // Designs every window once and fills the handler slots of all controls.
 void bindEvents();
 
