@@ -112,7 +112,7 @@ class Comparison {
     }
 
     std::string write(const std::vector<std::string>& lines, const std::string& name) {
-        const std::string path = folder_ + "/" + name;
+        std::string path = folder_ + "/" + name;
         std::ofstream file(path);
         for (const std::string& line : lines) {
             file << line << '\n';
