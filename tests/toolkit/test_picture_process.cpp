@@ -2,6 +2,7 @@
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QImageWriter>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -29,6 +30,17 @@ class FewPixels : public WholePicture {
 class Impatient : public FewPixels {
   public:
     bool goesOn() override { return false; }
+};
+
+// Gives up after some seconds.
+class PatientFor : public FewPixels {
+  public:
+    explicit PatientFor(int seconds) : milliseconds_(1000 * seconds) { waited_.start(); }
+    bool goesOn() override { return waited_.elapsed() < milliseconds_; }
+
+  private:
+    qint64 milliseconds_;
+    QElapsedTimer waited_;
 };
 
 // The reason of the refusal; empty if the picture is taken.
@@ -172,6 +184,39 @@ TEST(PictureProcess, a_reader_that_dies_or_is_not_there_is_told) {
     EXPECT_EQ(reasonOfRefusal("P6 1 1 255\nabc", "/bin/false"),
               "Its contents cannot be made sense of");
     EXPECT_NE(reasonOfRefusal("P6 1 1 255\nabc", "/nowhere/at/all"), "");
+}
+
+// The reader among less and less memory, where threads cannot be started either: each time it gives
+// the picture or says why not, and never hangs.
+TEST(PictureProcess, a_reader_short_of_memory_gives_the_picture_or_the_reason) {
+    const TempFolder folder;
+    const QImage image = colorful(1200, 900);
+    int given = 0;
+    int refused = 0;
+    for (const char* kind : {"png", "jpeg", "webp", "gif", "ppm"}) {
+        const std::string path = folder / "P";
+        writeContent(path, fileOf(image, kind));
+        for (int mebibytes = 40; mebibytes <= 440; mebibytes += 40) {
+            const std::string program = folder / "reader";
+            writeContent(program, "#!/bin/sh\nulimit -v " + std::to_string(1024 * mebibytes) +
+                                      "\nexec " OMBRELIA_EDITOR " \"$@\"\n");
+            std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+            PatientFor wish(10);
+            Surface picture;
+            try {
+                EXPECT_TRUE(QtPictureLoader(program).loadPicture(path, wish, picture))
+                    << kind << " hangs in " << mebibytes << " MiB";
+                EXPECT_EQ(picture.width(), 240) << kind << " in " << mebibytes << " MiB";
+                ++given;
+            } catch (const PictureFailure& failure) {
+                EXPECT_NE(std::string(failure.what()).find("The map is unharmed."),
+                          std::string::npos);
+                ++refused;
+            }
+        }
+    }
+    EXPECT_GT(given, 0);
+    EXPECT_GT(refused, 0);
 }
 
 TEST(PictureProcess, a_name_of_any_letters_reaches_it) {
