@@ -76,6 +76,20 @@ TEST_F(Texts, what_follows_a_text_stands_below_it) {
     });
 }
 
+TEST_F(Texts, no_page_of_the_help_is_nearly_empty) {
+    HelpBox.Topic.forEach([](const PictureBox& page) {
+        double bottom = 0;
+        for (const Control* part : HelpBox.Controls) {
+            if (part->Parent == &page && part->Name != "LinkLbl") {
+                bottom = std::max(bottom, part->Top + part->Height);
+            }
+        }
+        if (HelpBox.TopicTitle.has(page.Index)) {
+            EXPECT_GE(bottom, 0.4 * HelpBox.Picture1.Height) << page.Index;
+        }
+    });
+}
+
 TEST_F(Texts, every_hint_fits_the_frame) {
     const auto expectHintToFit = [](const std::string& text) {
         HelpFrm.HelpLbl.Caption = text;

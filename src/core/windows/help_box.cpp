@@ -29,6 +29,7 @@ constexpr double kTextSize = 12;
 constexpr double kTitleTop = 10;
 constexpr double kTextTop = 46;
 constexpr double kGap = 10;
+constexpr double kPictureGap = 18;
 constexpr double kLinkHeight = 19;
 constexpr int kFirstTextPage = 200;
 constexpr double kToolPitch = 44;
@@ -47,7 +48,7 @@ void designButtons() {
     for (int i = button::kHelpContents; i <= button::kHelpBack; ++i) {
         const char* text = kButtonTexts[i - button::kHelpContents];
         const double extra = i == button::kHelpBack ? 8 : 0;
-        const double top = 30 + 35.0 * (i - button::kHelpContents) + extra;
+        const double top = 32 + 34.0 * (i - button::kHelpContents) + extra;
         Image& face = HelpBox.NTool.make(i);
         designImage(face, "NTool", HelpBox, 10, top, Picture::Stand);
         face.AccessibleName = text;
@@ -85,10 +86,9 @@ double designText(Label& label, const char* name, PictureBox& page, double top,
     return top + height;
 }
 
-// Where the links of a page begin: a list right at the top, a way on at the foot of a text.
-double linksTop(const HelpPage& row, double textBottom) {
-    const double foot = kViewport.height - kMargin - kLinkHeight - kGap;
-    return row.number >= kFirstTextPage ? std::max(textBottom, foot) : textBottom;
+// Where the way on stands below a text: at the foot of its page.
+double footTop(double textBottom) {
+    return std::max(textBottom, kViewport.height - kMargin - kLinkHeight - kGap);
 }
 
 double designLinks(PictureBox& page, double top) {
@@ -137,7 +137,18 @@ void designTopic(const HelpPage& row) {
     } else if (row.number == kIconsPage) {
         bottom = designToolList(page, bottom);
     }
-    page.Height = designLinks(page, linksTop(row, bottom)) + kMargin;
+    if (row.number < kFirstTextPage) {
+        bottom = designLinks(page, bottom);
+    }
+    if (row.picture != Picture::None) {
+        Image& picture = HelpBox.TopicPicture.make(row.number);
+        designImage(picture, "TopicPicture", page, kMargin, bottom + kPictureGap, row.picture);
+        bottom += kPictureGap + picture.Height;
+    }
+    if (row.number >= kFirstTextPage) {
+        bottom = designLinks(page, footTop(bottom));
+    }
+    page.Height = bottom + kMargin;
 }
 
 // The pages of the tools stay empty until the window is loaded, which gives them picture and text.

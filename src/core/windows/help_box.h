@@ -22,15 +22,16 @@ struct HelpBoxWindow : Window {
     ControlArray<Label> TopicTitle;  // headings, by page number
     ControlArray<Line> TopicRule;    // under the headings, by page number
     ControlArray<Label> TopicLabel;  // texts, by page number
-    ControlArray<Label> LinkLbl;     // by row of kHelpLinks
-    ControlArray<Label> ContLbl;     // 0..5
-    ControlArray<Image> ToolPic;     // 0..10
-    ControlArray<Label> ToolName;    // 0..10
-    ControlArray<Image> IconPic;     // 400..410
-    ControlArray<Label> IconName;    // 400..410
-    ControlArray<Label> IconText;    // 400..410
-    Label Label40;                   // the About page's text
-    Label Label41;                   // the About page's heading
+    ControlArray<Image> TopicPicture;
+    ControlArray<Label> LinkLbl;   // by row of kHelpLinks
+    ControlArray<Label> ContLbl;   // 0..5
+    ControlArray<Image> ToolPic;   // 0..10
+    ControlArray<Label> ToolName;  // 0..10
+    ControlArray<Image> IconPic;   // 400..410
+    ControlArray<Label> IconName;  // 400..410
+    ControlArray<Label> IconText;  // 400..410
+    Label Label40;                 // the About page's text
+    Label Label41;                 // the About page's heading
 
     ControlArray<Image> Scroller;  // slider::kHelpPage alone, like the three below
     ControlArray<Image> Filler;

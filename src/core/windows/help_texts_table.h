@@ -1,24 +1,27 @@
 // The words of the help window. Odd spellings are the program's own.
 #pragma once
 
+#include "platform/skin_pictures.h"
+
 namespace ombrelia {
 
-// A page with a heading, and a text below it unless that is empty.
+// A page with a heading, a text below it unless that is empty, and a picture.
 struct HelpPage {
     int number;
     const char* title;
     const char* text;
+    Picture picture = Picture::None;  // of what a short page speaks of
 };
 
 inline constexpr HelpPage kHelpPages[] = {
     {1, "Contents",
      "Welcome to the Ombrelia Terrain Editor's Help System. To begin, select a "
      "topic on the left."},
-    {2, "Starting Out", ""},
-    {3, "Simple", ""},
+    {2, "Starting Out", "", Picture::HelpStarting},
+    {3, "Simple", "", Picture::HelpNewMap},
     {4, "Icons", "Please Select an Icon from the list:"},
-    {5, "Advanced", ""},
-    {6, "Advanced Terrain Editing", ""},
+    {5, "Advanced", "", Picture::HelpOptions},
+    {6, "Advanced Terrain Editing", "", Picture::HelpAdvanced},
     {200, "Step 1",
      "Creating a simple terrain is easy. Lets say we want to create a few "
      "mountains, and then a canyon running through them. First, pick the Mountain "
@@ -37,7 +40,8 @@ inline constexpr HelpPage kHelpPages[] = {
     {202, "Step 3",
      "It's time to save the map to a file. Click the MENU button, and then click "
      "SAVE. Type in a filename, and hit Save. The map has been saved at that "
-     "location."},
+     "location.",
+     Picture::HelpSave},
     {300, "Importing to Ombrelia",
      "Importing into Ombrelia can be hard, and there is'nt an easier way to do it. "
      "When you save your map, save it to a simple location, like C:\\Terrains. "
@@ -50,7 +54,8 @@ inline constexpr HelpPage kHelpPages[] = {
      "spelling error, and Ombrelia couldn't find the file."},
     {301, "Starting a New Map",
      "This is very simple. Click the Menu button at the top, and then click New "
-     "Map. Thats it!"},
+     "Map. Thats it!",
+     Picture::HelpNewMap},
     {500, "Changing the Color Palatte",
      "If you really hate that rather ugly Brown-Green thing, there are several new "
      "color pallates in the program. Click the options button at the top of the "
@@ -67,7 +72,8 @@ inline constexpr HelpPage kHelpPages[] = {
      "a new name."},
     {501, "Changing the Options",
      "This section will be updated in the next version, as we are still adding new "
-     "options. In the meantime, simply read the tool-tip pop ups."},
+     "options. In the meantime, simply read the tool-tip pop ups.",
+     Picture::HelpOptions},
     {600, "Fractal Terrain",
      "The Fractal Terrain Tool is one of the best parts of the program. It creates "
      "random terrain, based on fractals, which provide an excellent starting base "
