@@ -101,9 +101,14 @@ struct ImportChoice {
     ImportChoice& operator=(const ImportChoice&) = delete;
 };
 
+// Shares of a start at which its bar moves, about as the time goes.
+constexpr double kStartBegun = 0.2;
+constexpr double kTablesFilled = 0.5;
+constexpr double kMapPainted = 0.9;
+
 void openEditor() {
     showWindow(Form3);
-    refreshControl(Form3);
+    showLoaded(kStartBegun);
     showWindow(Form1);
     unloadWindow(Form3);
     unloadWindow(SizeSelect);
@@ -218,6 +223,7 @@ void SizeSelect_JokeDblClick(EventArgs& /*args*/) {
 
 void Form1_Load(EventArgs& /*args*/) {
     InitEditor();
+    showLoaded(kTablesFilled);
     TitleActiveColor = Form1.Label11.ForeColor;
     TitleInactiveColor = rgb(70, 70, 255);
     Form1.Label11.Caption = AppName + sizeSuffix();
@@ -232,6 +238,7 @@ void Form1_Load(EventArgs& /*args*/) {
     }
     fillBackBuffer();
     ApplyMapTransform();
+    showLoaded(kMapPainted);
     SplashMode = 1;
     DrawHeight = BaseHeight;
     showWindow(Form1);

@@ -26,7 +26,10 @@ void takeStart(const Album& album) {
     driver.waitForWindow(SizeSelect);
     driver.moveTo(SizeSelect.NTool(button::kSizeLarge), 4, 4);
     album.add("size", SizeSelect);
-    driver.inProgram([] { showWindow(Form3); });
+    driver.inProgram([] {
+        showWindow(Form3);
+        showLoaded(0.5);
+    });
     driver.waitForWindow(Form3);
     album.add("wait", Form3);
     driver.inProgram([] { unloadWindow(Form3); });

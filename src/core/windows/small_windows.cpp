@@ -2,6 +2,7 @@
 
 #include "core/button_numbers.h"
 #include "core/windows/layout.h"
+#include "platform/window_life.h"
 
 namespace ombrelia {
 
@@ -44,7 +45,7 @@ void designSizeButtons() {
                     {.align = TextAlign::Center, .bold = true});
         SizeSelect.LTool(row.number).LiesOn = &face;
         designLabel(SizeSelect.SizeLabel.make(row.number), "SizeLabel", SizeSelect.Picture1,
-                    {row.left, row.top + 34, face.Width, 13}, row.points,
+                    {row.left, row.top + 30, face.Width, 13}, row.points,
                     {.size = 10, .color = palette::kTextDim, .align = TextAlign::Center});
     }
 }
@@ -70,8 +71,10 @@ void designSizeSelect() {
 
 void designForm3() {
     designWindow(Form3, "Form3", "Ombrelia Terrain Editor", 260, 84, Picture::Form3Back);
-    designLabel(Form3.Label1, "Label1", Form3, {0, 30, 260, 24}, "Please Wait...",
+    designLabel(Form3.Label1, "Label1", Form3, {0, 22, 260, 24}, "Please Wait...",
                 {.size = 15, .align = TextAlign::Center, .bold = true});
+    designPart(Form3.Groove, "Groove", Form3, {40, 54, 180, 9}, {Picture::ProgressBack, 0});
+    designPart(Form3.Bar, "Bar", Form3, {41, 55, 0, 7}, {Picture::ProgressBar, 0});
 }
 
 void designHelpFrm() {
@@ -82,6 +85,11 @@ void designHelpFrm() {
 }
 
 }  // namespace
+
+void showLoaded(double share) {
+    Form3.Bar.Width = share * (Form3.Groove.Width - 2);
+    refreshControl(Form3);
+}
 
 SplashWindow::SplashWindow() {
     Design = designSplash;

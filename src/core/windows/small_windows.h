@@ -34,9 +34,14 @@ inline constexpr const char* kImportLineArmed = "Or, u kan import ah map phrom a
 // Says "Please Wait..." while the editor loads.
 struct Form3Window : Window {
     Label Label1;
+    Image Groove;
+    Image Bar;  // grows in Groove while the editor loads
     Form3Window();
 };
 extern Form3Window Form3;
+
+// How far the editor is loaded, 0..1.
+void showLoaded(double share);
 
 // One sentence about what the pointer is over, docked to the editor's right edge.
 struct HelpFrmWindow : Window {

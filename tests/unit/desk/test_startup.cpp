@@ -47,6 +47,14 @@ TEST_F(Startup, the_splash_gives_way_to_the_size_dialog_by_itself) {
     EXPECT_EQ(platform.Calls, (Log{"show frmSplash", "unload frmSplash", "show SizeSelect"}));
 }
 
+TEST_F(Startup, the_bar_of_the_waiting_window_grows_and_begins_anew) {
+    startWith(button::kSizeMiniature);
+    EXPECT_GT(Form3.Bar.Width, Form3.Groove.Width / 2);
+    EXPECT_LT(Form3.Bar.Width, Form3.Groove.Width);
+    loadWindow(Form3);
+    EXPECT_EQ(Form3.Bar.Width, 0);
+}
+
 TEST_F(Startup, escape_leaves_the_about_box_but_not_the_splash) {
     runHandler(startEditor);
     keyInput(frmSplash, key::kEscape);
