@@ -6,6 +6,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/skin_pictures.h"
+
 namespace ombrelia {
 
 // Pages, from above: the first ones have the numbers of their places. That of a tool has the number
@@ -87,15 +89,17 @@ struct Row {
     Readout readout;
     std::int16_t min, max, start;
     const char* hint;
+    Picture growth = Picture::None;  // below a slider alone on its page: what its values do
 };
 
 inline constexpr Row kRows[] = {
-    {1, page::kPencil, 54, "Thickness:", "lblThick", Readout::Value, 1, 20, 1,
-     "Here you can set the width of the pencil drawing."},
-    {2, page::kLine, 54, "Thickness:", "lblLineThick", Readout::Value, 1, 20, 1,
-     "Here you can set the width of the line drawing."},
-    {3, page::kRaise, 54, "Amount", "lblRaiseAmount", Readout::MetresOfAmount, 1, 20, 10,
-     "Here you can set the amount that the terrain gets raised, at the clickpoint."},
+    {1, page::kPencil, 32, "Thickness:", "lblThick", Readout::Value, 1, 20, 1,
+     "Here you can set the width of the pencil drawing.", Picture::GrowthStroke},
+    {2, page::kLine, 32, "Thickness:", "lblLineThick", Readout::Value, 1, 20, 1,
+     "Here you can set the width of the line drawing.", Picture::GrowthStroke},
+    {3, page::kRaise, 32, "Amount", "lblRaiseAmount", Readout::MetresOfAmount, 1, 20, 10,
+     "Here you can set the amount that the terrain gets raised, at the clickpoint.",
+     Picture::GrowthRaise},
     {4, page::k3DView, 22, "Resolution", "lblRes", Readout::Value, 1, 10, 4,
      "Here you can set the resolution of your 3D drawing. The higher the number, the faster the "
      "3D draw, but the quality gets worse."},
@@ -105,16 +109,18 @@ inline constexpr Row kRows[] = {
      "Here you can set the height of the mountain to make."},
     {7, page::kMountain, 42, "Top Size", "lblSizeValue", Readout::Value, 1, 30, 1,
      "Here you can set the top size of the mountain."},
-    {8, page::kPlain, 54, "Size", "lblPlainSize", Readout::Value, 5, 30, 5,
-     "Here you can set the size of the plain to create. Keep in mind that this plain is circular."},
+    {8, page::kPlain, 32, "Size", "lblPlainSize", Readout::Value, 5, 30, 5,
+     "Here you can set the size of the plain to create. Keep in mind that this plain is circular.",
+     Picture::GrowthPlain},
     {9, page::kFractal, 22, "Smoothness", "lblRough", Readout::Value, 1, 20, 1,
      "Here you can set the smoothness of the fractal terrain. A setting of 1 makes almost "
      "static, and a setting of 20 makes almost 1 color."},
     {10, page::kFractal, 42, "Height", "lblRoughHeight", Readout::MetresOfHeight, 20, 200, 60,
      "Here you can set the general height of the fractal. Keep in mind that the fractal moves "
      "up&down, so this is just the average height value."},
-    {11, page::kLower, 54, "Amount", "lblLowerAmount", Readout::MetresOfAmount, 1, 20, 4,
-     "Here you can set the amount that the terrain gets lowered, at the clickpoint."},
+    {11, page::kLower, 32, "Amount", "lblLowerAmount", Readout::MetresOfAmount, 1, 20, 4,
+     "Here you can set the amount that the terrain gets lowered, at the clickpoint.",
+     Picture::GrowthLower},
     {12, page::kCanyon, 22, "River Width", "lblRiverWidth", Readout::Value, 2, 15, 3,
      "Here you can set the width of the river that is generated, if you choose to have one."},
     {13, page::kCanyon, 42, "Bank Width", "lblBankWidth", Readout::Value, 3, 25, 10,

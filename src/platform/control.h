@@ -107,6 +107,7 @@ struct Control {
     double Height = 0;
     bool Visible = true;
     bool Enabled = true;
+    bool TakesPointer = true;    // false: a decoration; the pointer finds what lies below it
     std::string Caption;         // text of a label or list; "&&" shows as one "&"
     std::string AccessibleName;  // what assistive technology calls it; empty: the caption
     AccessRole Role = AccessRole::Default;
@@ -124,8 +125,17 @@ struct Control {
     explicit Control(ControlKind kind) : Kind(kind) {}
 };
 
+// Marks along the lower edge of a picture, as under the track of a slider: units from its left edge
+// to the first, and from one to the next.
+struct Marks {
+    double first = 0;
+    double pitch = 0;
+    int count = 0;
+};
+
 struct Image : Control {
     Image() : Control(ControlKind::Image) {}
+    Marks Scale;
 };
 
 enum class TextAlign { Left, Center, Right };

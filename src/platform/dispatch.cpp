@@ -74,8 +74,9 @@ int firstFreeKeyFrom(int key) {
 }
 
 bool takesMouse(const Control& control) {
-    return control.Kind == ControlKind::Image || control.Kind == ControlKind::Label ||
-           control.Kind == ControlKind::PictureBox || control.Kind == ControlKind::ListBox;
+    return control.TakesPointer &&
+           (control.Kind == ControlKind::Image || control.Kind == ControlKind::Label ||
+            control.Kind == ControlKind::PictureBox || control.Kind == ControlKind::ListBox);
 }
 
 }  // namespace

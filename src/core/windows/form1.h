@@ -53,6 +53,7 @@ struct Form1Window : Window {
     ControlArray<Image> VertFiller;
     ControlArray<Label> SliderLabel;  // captions of the sliders
     ControlArray<Label> Readout;      // of the sliders; each has a name of its own
+    ControlArray<Image> Growth;       // pictures below the sliders that are alone on their page
     ControlArray<Label> FrameText;    // texts in the frames that no handler writes
 
     // Colour page.

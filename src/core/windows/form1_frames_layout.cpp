@@ -20,6 +20,8 @@ constexpr double kArrowSide = 20;
 constexpr double kTrackLeft = 88;
 constexpr double kThumbRoom = 116;  // how far a thumb can go, about
 constexpr double kReadoutLeft = 224;
+constexpr double kGrowthLeft = 12;
+constexpr double kGrowthTop = 63;
 
 struct FrameTextPlace {
     int page;
@@ -65,6 +67,16 @@ double trackWidth(const slider::Row& row, double thumbWidth) {
     return step * steps + thumbWidth - kOneBit;
 }
 
+// Under the place of the thumb's middle: a mark for each value, or for each tenth where they would
+// be too many to be told apart.
+Marks marksOf(const slider::Row& row, const Image& track, const Image& thumb) {
+    constexpr int kMostMarks = 32;
+    const int values = row.max - row.min;
+    const int valuesOfMark = values < kMostMarks ? 1 : 10;
+    return {thumb.Width / 2, (track.Width - thumb.Width) / values * valuesOfMark,
+            values / valuesOfMark + 1};
+}
+
 void designSliders(Form1Window& form) {
     for (const slider::Row& row : slider::kRows) {
         PictureBox& frame = form.OptFrame(page::indexOf(row.page));
@@ -76,6 +88,12 @@ void designSliders(Form1Window& form) {
         Image& thumb = form.VertScroller.make(row.number);
         designImage(thumb, "VertScroller", frame, kTrackLeft, row.top, Picture::VertScroller);
         track.Width = trackWidth(row, thumb.Width);
+        track.Scale = marksOf(row, track, thumb);
+        if (row.growth != Picture::None) {
+            Image& growth = form.Growth.make(row.number);
+            designImage(growth, "Growth", frame, kGrowthLeft, kGrowthTop, row.growth);
+            growth.TakesPointer = false;
+        }
         thumb.AccessibleName = row.caption;
         thumb.Role = AccessRole::Slider;
         Label& readout = form.Readout.make(row.number);
@@ -104,22 +122,22 @@ void designTexts(Form1Window& form) {
 
 void designColorPage(Form1Window& form) {
     PictureBox& frame = form.OptFrame(page::kColors);
-    designPart(form.Combo1, "Combo1", frame, {12, 20, 220, 20});
+    designPart(form.Combo1, "Combo1", frame, {12, 21, 220, 20});
     form.Combo1.List.clear();
     form.Combo1.ListIndex = -1;
-    designSurface(form.PrefPicker, "PrefPicker", frame, {12, 42, 256, 9});
+    designSurface(form.PrefPicker, "PrefPicker", frame, {12, 45, 256, 9});
     for (int i = 1; i <= 5; ++i) {
         Image& marker = form.Range.make(i);
-        designImage(marker, "Range", frame, 12, 51, Picture::Range);
+        designImage(marker, "Range", frame, 12, 54, Picture::Range);
     }
     for (int row = 0; row < 6; ++row) {
         const double left = 12 + 43.0 * row;
-        designLabel(form.FrameText.make(10 + row), "FrameText", frame, {left, 58, 39, 12},
+        designLabel(form.FrameText.make(10 + row), "FrameText", frame, {left, 60, 39, 12},
                     kRowLabels[row],
                     {.size = 9, .color = palette::kTextDim, .align = TextAlign::Center});
         for (int end = 0; end < 2; ++end) {
             PictureBox& swatch = form.Rng1.make(2 * row + end);
-            designPart(swatch, "Rng1", frame, {left + 20 * end, 70, 19, 11});
+            designPart(swatch, "Rng1", frame, {left + 20 * end, 72, 19, 11});
             swatch.Opaque = true;
             swatch.AccessibleName = std::string(kRowLabels[row]) + (end == 0 ? ", low" : ", high");
             swatch.Role = AccessRole::Button;

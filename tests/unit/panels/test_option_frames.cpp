@@ -273,7 +273,7 @@ TEST_F(StripByWheel, the_hint_follows_what_comes_under_the_pointer) {
     set(0);
     HelpFrm.HelpLbl.Caption = "nothing";
     const PictureBox& frame = Form1.OptFrame(0);
-    turn(frame, Form1.VertScroller(1).Left + 3, Form1.VertScroller(1).Top + 50, 1);
+    turn(frame, Form1.VertScroller(1).Left + 3, Form1.VertScroller(1).Top + 72, 1);
     EXPECT_EQ(value(), 45);
     EXPECT_EQ(HelpFrm.HelpLbl.Caption, "Click && Drag here to scroll the box up or down.");
     const Point thumb = cornerInWindow(Form1.VertScroller(2));

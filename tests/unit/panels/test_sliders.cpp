@@ -57,6 +57,21 @@ class Sliders : public EditorTest {
     }
 };
 
+TEST_F(Sliders, the_marks_stand_where_the_thumb_comes_to) {
+    for (int i = slider::kFirst; i <= slider::kLast; ++i) {
+        const Marks& marks = Form1.VertFiller(i).Scale;
+        const int values = SliderValues(i).Max - SliderValues(i).Min;
+        const int step = values > 30 ? 10 : 1;
+        ASSERT_EQ(marks.count, values / step + 1) << i;
+        for (int k = 0; k < marks.count; ++k) {
+            set(i, SliderValues(i).Min + k * step);
+            const double middle = place(i) + Form1.VertScroller(i).Width / 2;
+            EXPECT_NEAR(middle, marks.first + k * marks.pitch, 0.01) << i << ", mark " << k;
+        }
+        EXPECT_GE(marks.pitch, 3) << i;  // units: to be told apart
+    }
+}
+
 // The road of assistive technology: a value is asked for and wished, no thumb is dragged.
 TEST_F(Sliders, a_wished_value_stays_in_its_range_and_moves_thumb_and_readout) {
     Image& thumb = Form1.VertScroller(14);
