@@ -9,10 +9,12 @@
 #include <vector>
 
 #include "core/button_numbers.h"
+#include "core/button_table.h"
 #include "core/buttons.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/option_strip_table.h"
+#include "core/progress.h"
 #include "core/windows/form1.h"
 #include "core/windows/help_box.h"
 #include "core/windows/small_windows.h"
@@ -150,6 +152,21 @@ class Contrast : public testing::Test {
         return std::sqrt(sum / static_cast<double>(one.size()));
     }
 
+    // Standard deviation of the lightness within a part of a picture.
+    static double spread(const QImage& image, const QRect& part) {
+        double sum = 0;
+        double squares = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const double light = lightness(luminance(image.pixel(x, y)));
+                sum += light;
+                squares += light * light;
+            }
+        }
+        const double count = 1.0 * part.width() * part.height();
+        return std::sqrt(squares / count - sum / count * (sum / count));
+    }
+
     HeadlessPlatform platform;
     Skin skin;
     std::set<const Control*> measured;
@@ -210,6 +227,72 @@ TEST_F(Contrast, the_states_of_each_face_differ_in_lightness) {
         EXPECT_GE(distance(picture, kUp, kOn), kLeastStep) << pictureInfo(picture).name;
         EXPECT_GE(distance(picture, kHover, kOn), kLeastStep) << pictureInfo(picture).name;
     }
+}
+
+TEST_F(Contrast, what_is_locked_is_paler_and_the_rest_is_not) {
+    const QImage free = paint(Form1, 2);
+    SetToolsEnabled(false);
+    const QImage locked = paint(Form1, 2);
+    for (const ButtonRow& row : button::kRows) {
+        if (row.place.frame == &Form1Window::ToolFrame) {
+            const QRect place = deviceRect(Form1.NTool(row.number), 2);
+            const double before = spread(free, place);
+            const double after = spread(locked, place);
+            if (row.isLocked) {
+                EXPECT_LT(after, 0.6 * before) << row.name;
+            } else {
+                EXPECT_EQ(after, before) << row.name;
+            }
+        }
+    }
+    QImage inParts = free;
+    QPainter painter(&inParts);
+    for (int top = 0; top < inParts.height(); top += 60) {
+        paintWindow(painter, Form1, {0, top, inParts.width(), 60}, {skin, 2});
+    }
+    painter.end();
+    EXPECT_EQ(inParts, locked);
+    const QRect map = deviceRect(Form1.MapView, 2);
+    EXPECT_EQ(locked.copy(map), free.copy(map));
+}
+
+TEST_F(Contrast, the_tools_to_come_are_paler_than_the_others) {
+    const QImage shown = paint(Form1, 2);
+    double palest = 100;
+    double strongestToCome = 0;
+    for (const ButtonRow& row : button::kRows) {
+        if (row.place.frame == &Form1Window::ToolFrame && row.number != button::kColorPicker) {
+            const Image& icon = Form1.NTool(row.number + kOverlayOffset);
+            const double strength = spread(shown, deviceRect(icon, 2));
+            const bool isToCome = row.number >= button::kWavy && row.number <= button::kVolcano;
+            if (isToCome) {
+                strongestToCome = std::max(strongestToCome, strength);
+            } else {
+                palest = std::min(palest, strength);
+            }
+        }
+    }
+    EXPECT_LT(strongestToCome, palest);
+}
+
+TEST_F(Contrast, the_magnifier_stands_inside_its_group) {
+    constexpr double kScale = 2;
+    constexpr double kAir = 2;  // units
+    const QRectF group(6.5, 25.5, 127, 57);
+    const QImage with = paint(Form1, kScale);
+    Form1.ZoomView.Visible = false;
+    const QImage without = paint(Form1, kScale);
+    QRect different;
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width(); ++x) {
+            if (with.pixel(x, y) != without.pixel(x, y)) {
+                different |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    ASSERT_FALSE(different.isEmpty());
+    const QRectF air = group.adjusted(kAir, kAir, -kAir, -kAir);
+    EXPECT_TRUE(QRectF(air.topLeft() * kScale, air.size() * kScale).contains(different));
 }
 
 }  // namespace

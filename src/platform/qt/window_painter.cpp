@@ -11,28 +11,19 @@ namespace ombrelia {
 
 namespace {
 
+constexpr double kOpacityOfDisabled = 0.4;
+constexpr double kMarkHeight = 3;  // units
+
 class Painting {
   public:
     Painting(QPainter& painter, const PaintTools& tools) : painter_(painter), tools_(tools) {}
 
     void draw(const Control& control, const QRect& place) {
-        switch (control.Kind) {
-            case ControlKind::Label:
-                drawLabel(static_cast<const Label&>(control), place);
-                break;
-            case ControlKind::PictureBox:
-                drawPictureBox(static_cast<const PictureBox&>(control), place);
-                break;
-            case ControlKind::ListBox:
-                drawList(static_cast<const ListBox&>(control), place);
-                break;
-            case ControlKind::TextLine:
-                drawTextLine(control, place);
-                break;
-            default:
-                drawFace(control, place);
-                break;
-        }
+        // A surface keeps its full colours: a map is looked at while an operation locks it.
+        const bool isFaded = control.Kind != ControlKind::PictureBox && !isEnabled(control);
+        painter_.setOpacity(isFaded ? kOpacityOfDisabled : 1);
+        drawInFull(control, place);
+        painter_.setOpacity(1);
     }
 
     void drawLine(const Line& line) {
@@ -53,6 +44,43 @@ class Painting {
     }
 
   private:
+    void drawInFull(const Control& control, const QRect& place) {
+        switch (control.Kind) {
+            case ControlKind::Image:
+                drawFace(control, place);
+                drawMarks(static_cast<const Image&>(control).Scale, place);
+                break;
+            case ControlKind::Label:
+                drawLabel(static_cast<const Label&>(control), place);
+                break;
+            case ControlKind::PictureBox:
+                drawPictureBox(static_cast<const PictureBox&>(control), place);
+                break;
+            case ControlKind::ListBox:
+                drawList(static_cast<const ListBox&>(control), place);
+                break;
+            case ControlKind::TextLine:
+                drawTextLine(control, place);
+                break;
+            default:
+                drawFace(control, place);
+                break;
+        }
+    }
+
+    void drawMarks(const Marks& marks, const QRect& place) {
+        const auto device = [this](double units) {
+            return static_cast<int>(std::lround(units * tools_.scale));
+        };
+        const int width = std::max(1, device(1));
+        const int height = device(kMarkHeight);
+        for (int i = 0; i < marks.count; ++i) {
+            painter_.fillRect(place.left() + device(marks.first + i * marks.pitch) - width / 2,
+                              place.bottom() + 1 - height, width, height,
+                              toolkitColor(palette::kEdge));
+        }
+    }
+
     void drawLabel(const Label& label, const QRect& place) {
         if (label.Opaque) {
             painter_.fillRect(place, toolkitColor(label.BackColor));
