@@ -1,8 +1,11 @@
 #include "album.h"
 
 #include <QImage>
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 
+#include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
 #include "panels/sliders.h"
@@ -61,6 +64,26 @@ void Album::setSlider(int slider, int value) const {
         PlaceSlider(slider);
         showReadout(slider);
     });
+}
+
+// In small steps, as a hand makes it.
+void Album::drag(const Gesture& gesture, int button) const {
+    constexpr double kStep = 12;
+    driver.moveTo(Form1.MapView, gesture.front().x, gesture.front().y);
+    driver.press(button);
+    for (std::size_t i = 1; i < gesture.size(); ++i) {
+        const Spot& from = gesture[i - 1];
+        const Spot& to = gesture[i];
+        const int steps =
+            static_cast<int>(std::max(1.0, std::hypot(to.x - from.x, to.y - from.y) / kStep));
+        for (int k = 1; k <= steps; ++k) {
+            driver.moveTo(Form1.MapView, from.x + (to.x - from.x) * k / steps,
+                          from.y + (to.y - from.y) * k / steps);
+        }
+    }
+    driver.release(button);
+    driver.waitFor([] { return MouseState == kGestureNone && !isHandling(); });
+    driver.rest(200);
 }
 
 void Album::press(int button) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/generator_random.h"
 #include "screen_driver.h"
@@ -24,6 +25,11 @@ struct Album {
     std::string folder;  // empty: nothing is kept
     std::string suffix;  // of every name; may be empty
 
+    struct Spot {
+        double x, y;  // pixels of MapView
+    };
+    using Gesture = std::vector<Spot>;
+
     // Saves what the screen shows of a window or a part.
     void add(const std::string& name, Control& part) const;
     void save(const std::string& name, const QImage& picture) const;
@@ -37,9 +43,15 @@ struct Album {
     void setSlider(int slider, int value) const;
     void press(int button) const;  // a tool or an object, by its icon
 
+    // A drag on the map from place to place.
+    void drag(const Gesture& gesture, int button = 1) const;
+
     // Presses a wide button that works, and waits for the end of the work.
     void pressAndWait(int button) const;
 };
+
+// The landscape of the guide, a tool after the other, each with a picture.
+void buildLandscape(const Album& album);
 
 // Every window and every option frame.
 void takeWindows(const Album& album);
@@ -48,5 +60,8 @@ void takeWindows(const Album& album);
 // perspective; and the maps alone, what each tool does, the styles, the colour sets.
 void takeRoad(const Album& album);
 void takeMaps(const Album& album);
+
+// What moves the view, the steps in which the map comes to the screen, the import's dialog.
+void takeMotions(const Album& album);
 
 }  // namespace ombrelia

@@ -1,6 +1,5 @@
 // The pictures of the user's guide.
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -17,36 +16,6 @@
 namespace ombrelia {
 
 namespace {
-
-struct Spot {
-    double x, y;  // pixels of MapView
-};
-using Gesture = std::vector<Spot>;
-
-void waitForQuiet(ScreenDriver& driver) {
-    driver.waitFor([] { return MouseState == kGestureNone && !isHandling(); });
-    driver.rest(200);
-}
-
-// A drag in small steps, as a hand makes it.
-void drag(const Album& album, const Gesture& gesture) {
-    ScreenDriver& driver = album.driver;
-    constexpr double kStep = 12;
-    driver.moveTo(Form1.MapView, gesture.front().x, gesture.front().y);
-    driver.press();
-    for (std::size_t i = 1; i < gesture.size(); ++i) {
-        const Spot& from = gesture[i - 1];
-        const Spot& to = gesture[i];
-        const int steps =
-            static_cast<int>(std::max(1.0, std::hypot(to.x - from.x, to.y - from.y) / kStep));
-        for (int k = 1; k <= steps; ++k) {
-            driver.moveTo(Form1.MapView, from.x + (to.x - from.x) * k / steps,
-                          from.y + (to.y - from.y) * k / steps);
-        }
-    }
-    driver.release();
-    waitForQuiet(driver);
-}
 
 void showMap(const Album& album, const HeightGrid& heights) {
     album.driver.inProgram([&] {
@@ -67,43 +36,22 @@ void growGround(const Album& album) {
     album.pressAndWait(button::kGenerate);
 }
 
-void buildMountain(const Album& album, int height, int top, int steepness, const Spot& spot) {
+void buildMountain(const Album& album, int height, int top, int steepness,
+                   const Album::Spot& spot) {
     album.press(button::kMountain);
     album.setSlider(6, height);
     album.setSlider(7, top);
     album.press(steepness);
-    drag(album, {spot});
+    album.drag({spot});
 }
 
-void carveCanyon(const Album& album, const Gesture& way) {
+void carveCanyon(const Album& album, const Album::Gesture& way) {
     album.press(button::kCanyon);
     album.setSlider(12, 3);
     album.setSlider(13, 8);
     album.press(button::kCanyonSmooth);
     album.driver.inProgram([] { OptionStates(button::kRiverInMiddle).State = kOn; });
-    drag(album, way);
-}
-
-void buildLandscape(const Album& album) {
-    album.driver.waitForWindow(frmSplash);
-    album.driver.click(frmSplash, 60, 60);
-    album.openLargeMap();
-    album.add("road_1_empty", Form1);
-    growGround(album);
-    album.add("road_2_grown", Form1);
-    buildMountain(album, 255, 3, button::kMountainSmooth, {70, 62});
-    buildMountain(album, 236, 2, button::kMountainSmooth, {192, 98});
-    buildMountain(album, 205, 8, button::kMountainSlightlySteep, {60, 136});
-    album.stepAside();
-    album.add("road_3_mountains", Form1);
-    carveCanyon(album, {{134, 12}, {146, 60}, {122, 112}, {112, 160}, {150, 196}, {246, 222}});
-    album.stepAside();
-    album.add("road_4_canyon", Form1);
-    album.press(button::kPlain);
-    album.setSlider(8, 24);
-    drag(album, {{70, 208}});
-    album.driver.moveTo(Form1.MapView, 96, 150);
-    album.add("road_5_plain", Form1);
+    album.drag(way);
 }
 
 // Turned a little and a little nearer.
@@ -116,7 +64,7 @@ void lookFromAside(const Album& album) {
     driver.moveTo(Form1.MapView, 118, 170);
     driver.release();
     album.press(button::kZoom3D);
-    drag(album, {{100, 100}, {100, 124}});
+    album.drag({{100, 100}, {100, 124}});
     album.stepAside();
 }
 
@@ -168,11 +116,11 @@ struct ToolPicture {
     const char* name;
     int tool;
     int slider, value;
-    Gesture gesture;
+    Album::Gesture gesture;
 };
 
-const Gesture kThereAndBack = {{50, 80},   {100, 120}, {150, 110}, {190, 150}, {150, 110},
-                               {100, 120}, {50, 80},   {100, 120}, {150, 110}, {190, 150}};
+const Album::Gesture kThereAndBack = {{50, 80},   {100, 120}, {150, 110}, {190, 150}, {150, 110},
+                                      {100, 120}, {50, 80},   {100, 120}, {150, 110}, {190, 150}};
 
 void takeTools(const Album& album, const HeightGrid& ground) {
     const ToolPicture pictures[] = {
@@ -192,7 +140,7 @@ void takeTools(const Album& album, const HeightGrid& ground) {
         album.press(row.tool);
         album.setSlider(row.slider, row.value);
         album.driver.inProgram([] { DrawHeight = 160; });
-        drag(album, row.gesture);
+        album.drag(row.gesture);
         album.stepAside();
         album.add(std::string("tool_") + row.name, Form1.MapView);
     }
@@ -204,6 +152,28 @@ void takeTools(const Album& album, const HeightGrid& ground) {
 }
 
 }  // namespace
+
+void buildLandscape(const Album& album) {
+    album.driver.waitForWindow(frmSplash);
+    album.driver.click(frmSplash, 60, 60);
+    album.openLargeMap();
+    album.add("road_1_empty", Form1);
+    growGround(album);
+    album.add("road_2_grown", Form1);
+    buildMountain(album, 255, 3, button::kMountainSmooth, {70, 62});
+    buildMountain(album, 236, 2, button::kMountainSmooth, {192, 98});
+    buildMountain(album, 205, 8, button::kMountainSlightlySteep, {60, 136});
+    album.stepAside();
+    album.add("road_3_mountains", Form1);
+    carveCanyon(album, {{134, 12}, {146, 60}, {122, 112}, {112, 160}, {150, 196}, {246, 222}});
+    album.stepAside();
+    album.add("road_4_canyon", Form1);
+    album.press(button::kPlain);
+    album.setSlider(8, 24);
+    album.drag({{70, 208}});
+    album.driver.moveTo(Form1.MapView, 96, 150);
+    album.add("road_5_plain", Form1);
+}
 
 void takeRoad(const Album& album) {
     buildLandscape(album);
