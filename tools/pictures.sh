@@ -13,3 +13,4 @@ tools/with_screen.sh 1440x800 build/picture_book windows docs/pictures/windows 1
 tools/with_screen.sh 1920x1080 build/picture_book windows docs/pictures/windows 2
 tools/with_screen.sh 1920x1080 build/picture_book road docs/pictures/guide
 tools/with_screen.sh 1000x560 build/picture_book maps docs/pictures/guide
+tools/with_screen.sh 1000x560 build/picture_book motions docs/pictures/guide

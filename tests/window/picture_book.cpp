@@ -1,6 +1,6 @@
 // Makes the documents' pictures from the running program:
 //   picture_book windows FOLDER SUFFIX
-//   picture_book road|maps FOLDER
+//   picture_book road|maps|motions FOLDER
 #include <cstdio>
 #include <string>
 
@@ -18,7 +18,8 @@ struct Kind {
 
 constexpr Kind kKinds[] = {{"windows", 4, ombrelia::takeWindows, 1},
                            {"road", 3, ombrelia::takeRoad, 0},
-                           {"maps", 3, ombrelia::takeMaps, 0}};
+                           {"maps", 3, ombrelia::takeMaps, 0},
+                           {"motions", 3, ombrelia::takeMotions, 0}};
 
 }  // namespace
 
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
             kind.yieldMilliseconds);
         return 0;
     }
-    std::fprintf(stderr, "picture_book windows FOLDER SUFFIX\npicture_book road|maps FOLDER\n");
+    std::fprintf(stderr,
+                 "picture_book windows FOLDER SUFFIX\npicture_book road|maps|motions FOLDER\n");
     return 2;
 }
