@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """The documents stay true: every back-ticked path, every picture and every test that a `Required:`
 comment names exists; the ladder in docs/architecture.md is the one that is checked; the kinds of
-pictures in docs/guide.md are those that are read, and the desktop entry claims none."""
+pictures in docs/guide.md are those that are read, and the desktop entry claims none; the splash shows
+the version."""
 import pathlib
 import re
 import subprocess
@@ -61,12 +62,20 @@ def check_kinds(problems):
         problems.append("the desktop entry promises to open files, which the editor does not do")
 
 
+def check_version(problems):
+    version = re.search(r"^project\([^)]*\bVERSION\s+([\d.]+)", (ROOT / "CMakeLists.txt").read_text(), re.M)
+    if f"<!-- Version {version[1]} -->" not in (ROOT / "assets/skin/splash.svg").read_text():
+        problems.append(f"assets/skin/splash.svg does not show the version {version[1]}: "
+                        "run tools/letter_splash.py")
+
+
 def main():
     problems, files = [], tracked()
     check_paths(files, problems)
     check_required(files, problems)
     check_ladder(problems)
     check_kinds(problems)
+    check_version(problems)
     print("\n".join(problems) if problems else "the documents are true")
     return 1 if problems else 0
 
