@@ -10,6 +10,8 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QStyle>
 #include <QTemporaryDir>
@@ -18,6 +20,9 @@
 #include <gtest/gtest.h>
 
 #include "core/objects.h"
+#include "core/option_strip_table.h"
+#include "core/questions.h"
+#include "panels/option_frames.h"
 #include "stories.h"
 
 namespace ombrelia {
@@ -66,6 +71,34 @@ void expectSentBack(ScreenDriver& driver, const QString& path, const char* text)
     driver.key("Return");
     ASSERT_TRUE(driver.waitFor([&] { return QApplication::activeModalWidget() == dialog; }));
     driver.rest(300);
+}
+
+// The letters, buttons and margins of the dialog in front have the editor's scale, nothing is cut
+// off, and the whole of it is on the screen.
+void expectAtScale(double scale, const char* title) {
+    constexpr double kUnit = 0.99;  // but for rounding
+    const QWidget* dialog = QApplication::activeModalWidget();
+    EXPECT_TRUE(dialog->screen()->availableGeometry().contains(dialog->frameGeometry())) << title;
+    for (const auto* button : dialog->findChildren<QPushButton*>()) {
+        if (button->isVisible()) {
+            EXPECT_GE(button->height(), kUnit * 22 * scale) << title;
+            EXPECT_GE(button->width(), kUnit * 64 * scale) << title;
+            EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(button->text()))
+                << title << ": " << button->text().toStdString();
+            EXPECT_GE(button->mapTo(dialog, QPoint()).x(), kUnit * 6 * scale) << title;
+        }
+    }
+    int letters = 0;
+    for (const auto* label : dialog->findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->text().isEmpty()) {
+            ++letters;
+            EXPECT_GE(label->fontInfo().pixelSize(), kUnit * 11 * scale) << title;
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << title;
+            EXPECT_TRUE(label->wordWrap() || label->width() >= label->sizeHint().width())
+                << title << ": " << label->text().toStdString();
+        }
+    }
+    EXPECT_GT(letters, 0) << title;
 }
 
 // Every label of the dialog in front shows its text as it stands.
@@ -184,14 +217,14 @@ TEST(FileDialogs, everything_can_be_read) {
         ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
         pressWide(driver, button::kMenu);
         openDialog(driver, button::kSave, kSave);
-        driver.inProgram([] {
+        const double scale = driver.scale();
+        driver.inProgram([scale] {
             const QWidget* dialog = QApplication::activeModalWidget();
-            constexpr double kScale = 1.5;  // of this screen
-            EXPECT_GE(dialog->width(), 420 * kScale);
-            EXPECT_GE(dialog->height(), 280 * kScale);
+            EXPECT_GE(dialog->width(), 420 * scale);
+            EXPECT_GE(dialog->height(), 280 * scale);
             EXPECT_EQ(partOf<QLineEdit>("fileNameEdit")->placeholderText(), "name.bmp");
             const QHeaderView* header = partOf<QTreeView>("treeView")->header();
-            EXPECT_GE(header->sectionSize(0), 150 * kScale);
+            EXPECT_GE(header->sectionSize(0), 150 * scale);
             EXPECT_GE(header->sectionSize(3), header->sectionSizeHint(3));
             for (const auto* button : dialog->findChildren<QAbstractButton*>()) {
                 EXPECT_TRUE(
@@ -201,6 +234,31 @@ TEST(FileDialogs, everything_can_be_read) {
             }
         });
         closeDialog(driver);
+    });
+}
+
+TEST(Dialogs, each_grows_with_the_editor) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        const auto look = [&](const char* title) {
+            ASSERT_TRUE(driver.waitForDialog(title));
+            const double scale = driver.scale();
+            driver.inProgram([&] { expectAtScale(scale, title); });
+            closeDialog(driver);
+        };
+        pressWide(driver, button::kMenu);
+        pressWide(driver, button::kSave);
+        look(kSave);
+        pressWide(driver, button::kImport);
+        look(kImport);
+        pressWide(driver, button::kNewMap);
+        look(messages::kNewMapTitle);
+        driver.inProgram([] { ScrollToFrame(page::kColors); });
+        driver.moveTo(Form1, 5, 350);
+        driver.click(Form1.Rng1(6));
+        look("Select a Color");
+        pressWide(driver, button::kAddColor);
+        look("Save Color Set");
     });
 }
 
