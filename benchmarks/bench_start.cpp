@@ -1,8 +1,10 @@
-// Start to the first painted window, and peak memory: the editor next to an empty frameless window.
-// Needs a screen; the two programs lie beside this one.
+// Start to the first painted window, and peak memory: the editor next to an empty frameless window
+// of the same size. Needs a screen; the two programs lie beside this one.
+//   bench_start SCALE [OPTION ...]    the scale at which the screen shows the splash
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
+#include <cstdio>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -12,12 +14,13 @@
 namespace {
 
 std::string ownFolder;
+std::string scale;
 
 // Peak memory in KiB of one run that ended well, 0 otherwise.
 long runOnce(const std::string& program) {
     const pid_t child = fork();
     if (child == 0) {
-        execl(program.c_str(), program.c_str(), nullptr);
+        execl(program.c_str(), program.c_str(), scale.c_str(), nullptr);
         _exit(127);
     }
     int status = 0;
@@ -48,10 +51,17 @@ void startProgram(benchmark::State& state, const char* name) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc < 2) {
+        std::fputs("It is: bench_start SCALE [OPTION ...]\n", stderr);
+        return 2;
+    }
     const std::string self = argv[0];
     ownFolder = self.substr(0, self.find_last_of('/'));
+    scale = argv[1];
+    std::copy(argv + 2, argv + argc, argv + 1);
+    --argc;
     for (const char* name : {"start_editor", "start_empty"}) {
-        benchmark::RegisterBenchmark(name, startProgram, name)
+        benchmark::RegisterBenchmark((name + ("/" + scale)).c_str(), startProgram, name)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond)
             ->Iterations(1);

@@ -1,4 +1,5 @@
 // An empty frameless window of the splash's size, from its start to its first painting.
+//   start_empty SCALE
 #include <QApplication>
 #include <QWidget>
 #include <cstdlib>
@@ -7,8 +8,8 @@ namespace {
 
 class EmptyWindow : public QWidget {
   public:
-    EmptyWindow() : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
-        setFixedSize(920, 560);
+    explicit EmptyWindow(double scale) : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
+        setFixedSize(static_cast<int>(460 * scale), static_cast<int>(280 * scale));
     }
 
   protected:
@@ -18,8 +19,11 @@ class EmptyWindow : public QWidget {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc < 2) {
+        return 2;
+    }
     QApplication application(argc, argv);
-    EmptyWindow window;
+    EmptyWindow window(std::atof(argv[1]));
     window.show();
     return QApplication::exec();
 }

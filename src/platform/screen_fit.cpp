@@ -7,7 +7,6 @@ namespace ombrelia {
 
 namespace {
 
-constexpr double kScales[] = {4, 3, 2.5, 2, 1.75, 1.5, 1.25, 1};
 constexpr double kSmallScales[] = {1, 0.9, 0.8, 0.7, 0.6, 0.5};
 
 }  // namespace

@@ -9,22 +9,25 @@
 namespace ombrelia {
 
 TEST(Skin, the_splash_that_was_drawn_beforehand_is_what_its_vectors_give) {
-    const QSize size = readySize();
+    const auto vectors = openVectors(kReadyFace.picture);
     Skin skin;
-    const QImage& ready = skin.face(kReadyFace, size.width(), size.height());
-    EXPECT_EQ(ready.constBits(), readySplash().constBits());
-    const QImage drawn =
-        drawFace(*openVectors(kReadyFace.picture), kReadyFace, size.width(), size.height());
-    EXPECT_EQ(ready.convertToFormat(QImage::Format_ARGB32_Premultiplied), drawn);
+    for (const double scale : kScales) {
+        const QSize size = readySize(scale);
+        const QImage& ready = skin.face(kReadyFace, size.width(), size.height());
+        EXPECT_EQ(ready.constBits(), readySplash(size).constBits()) << scale;
+        EXPECT_EQ(ready.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                  drawFace(*vectors, kReadyFace, size.width(), size.height()))
+            << scale;
+    }
 }
 
 TEST(Skin, another_size_of_the_splash_is_drawn) {
     Skin skin;
-    const QImage& small = skin.face(kReadyFace, 460, 280);
-    EXPECT_EQ(small, drawFace(*openVectors(kReadyFace.picture), kReadyFace, 460, 280));
-    const QSize size = readySize();
+    const QImage& small = skin.face(kReadyFace, 461, 281);
+    EXPECT_EQ(small, drawFace(*openVectors(kReadyFace.picture), kReadyFace, 461, 281));
+    const QSize size = readySize(2);
     EXPECT_EQ(skin.face(kReadyFace, size.width(), size.height()).size(), size);
-    EXPECT_EQ(skin.face(kReadyFace, 460, 280).size(), QSize(460, 280));
+    EXPECT_EQ(skin.face(kReadyFace, 461, 281).size(), QSize(461, 281));
 }
 
 }  // namespace ombrelia

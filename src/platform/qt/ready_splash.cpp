@@ -1,6 +1,7 @@
 #include "platform/qt/ready_splash.h"
 
-// What draw_ready_splash has drawn: the pixels of a QImage of Format_RGB32, row by row.
+// What draw_ready_splash has drawn: the pixels of a QImage of Format_RGB32 for each scale, row by
+// row.
 asm(".section .rodata\n"
     ".balign 16\n"
     "ombreliaReadySplash:\n"
@@ -12,9 +13,16 @@ extern "C" const uchar ombreliaReadySplash[];
 
 namespace ombrelia {
 
-QImage readySplash() {
-    const QSize size = readySize();
-    return {ombreliaReadySplash, size.width(), size.height(), QImage::Format_RGB32};
+QImage readySplash(const QSize& size) {
+    const uchar* pixels = ombreliaReadySplash;
+    for (const double scale : kScales) {
+        const QSize ready = readySize(scale);
+        if (ready == size) {
+            return {pixels, size.width(), size.height(), QImage::Format_RGB32};
+        }
+        pixels += sizeof(QRgb) * static_cast<std::size_t>(ready.width() * ready.height());
+    }
+    return {};
 }
 
 }  // namespace ombrelia

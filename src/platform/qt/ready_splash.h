@@ -1,4 +1,4 @@
-// The splash as the commonest screens show it, drawn when the program is built: drawing it from its
+// The splash as it shows at each scale, drawn when the program is built: drawing it from its
 // vectors would take most of what the start takes beside the toolkit's own.
 #pragma once
 
@@ -6,19 +6,19 @@
 #include <QSize>
 
 #include "platform/control.h"
+#include "platform/screen_fit.h"
 
 namespace ombrelia {
 
 inline constexpr PictureFace kReadyFace{Picture::Splash, 0};
-inline constexpr int kReadyScale = 2;  // of a screen of 1920 x 1080
 
-// The size of the ready picture in device pixels.
-inline QSize readySize() {
+// The size of the picture at a scale, device pixels.
+inline QSize readySize(double scale) {
     const PictureInfo& info = pictureInfo(kReadyFace.picture);
-    return {info.width * kReadyScale, info.height * kReadyScale};
+    return {static_cast<int>(info.width * scale), static_cast<int>(info.height * scale)};
 }
 
-// The picture, in the program's own memory.
-QImage readySplash();
+// The picture of this size, in the program's own memory; null if none is ready.
+QImage readySplash(const QSize& size);
 
 }  // namespace ombrelia

@@ -19,9 +19,11 @@ const QImage& Skin::face(PictureFace face, int widthDevice, int heightDevice) {
     if (image.width() == widthDevice && image.height() == heightDevice) {
         return image;
     }
-    if (face == kReadyFace && readySize() == QSize(widthDevice, heightDevice)) {
-        image = readySplash();
-        return image;
+    if (face == kReadyFace) {
+        image = readySplash({widthDevice, heightDevice});
+        if (!image.isNull()) {
+            return image;
+        }
     }
     auto& vectors = vectors_[face.picture];
     if (vectors == nullptr) {
