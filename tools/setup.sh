@@ -3,7 +3,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-image-
     librsvg2-bin libpng-dev libjpeg-dev libcanberra-dev libcanberra-pulse fonts-dejavu-core)
 SCREEN_PACKAGES=(xvfb openbox xdotool libxtst6 x11-utils imagemagick)
 TEST_PACKAGES=(x11-xserver-utils libgtest-dev libbenchmark-dev libmagick++-dev libcairo2-dev libxtst-dev valgrind netpbm python3 git
-    dbus at-spi2-core python3-gi gir1.2-atspi-2.0
+    dbus at-spi2-core python3-gi gir1.2-atspi-2.0 qt6-xdgdesktopportal-platformtheme
     weston xwayland qt6-wayland)
 # Debian 12 has the plug-in that reads drawings in the library's own package.
 grep -qs '^VERSION_ID="12"' /etc/os-release || TEST_PACKAGES+=(qt6-svg-plugins)
