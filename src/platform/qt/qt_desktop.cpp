@@ -352,7 +352,7 @@ void QtDesktop::minimize(Window& window) {
 }
 
 void QtDesktop::refresh(Control& control) {
-    if (control.Kind != ControlKind::Window) {
+    if (control.Kind != ControlKind::Window || !control.Visible) {
         return;
     }
     // One picture in a display frame, so that a fade can be seen.
