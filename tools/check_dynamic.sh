@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/setup.sh
 install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" valgrind
-build sanitize yes
+build sanitize yes "${NO_SCREEN_TARGETS[@]}"
 # The sanitizer of g++ 12 misreads the thread storage of libraries that are loaded while the program
 # runs, as the toolkit's picture formats are, and its search for leaks crashes there.
 export ASAN_OPTIONS=intercept_tls_get_addr=0

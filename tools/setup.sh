@@ -11,7 +11,10 @@ CHECK_PACKAGES=(git python3 clang-format desktop-file-utils appstream man-db)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
 PRESET=${PRESET:-release}  # what the tests are built with; .ci/run takes "strict"
 # What runs real windows, or builds on its own and so needs no second compiler, for ctest -E.
-SCREEN_TESTS='^(window|wayland|accessibility|screens|two_ways|recipe)'
+SCREEN_TESTS='^(window|wayland|accessibility|screen|two_ways|recipe)'
+
+# What builds all the other tests.
+NO_SCREEN_TARGETS=(unit_tests scenario toolkit_tests text_tests monkey_tests monkey)
 
 # Says what begins, and how long what came before has taken.
 step() {
