@@ -1,6 +1,7 @@
 #include <string>
 #include <vector>
 
+#include "core/button_numbers.h"
 #include "core/editor_state.h"
 #include "core/objects.h"
 #include "core/progress.h"
