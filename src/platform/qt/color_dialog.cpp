@@ -9,9 +9,9 @@
 #include <QPalette>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 
 #include "platform/qt/color_parts.h"
+#include "platform/qt/dialog_dress.h"
 
 namespace ombrelia {
 
@@ -20,10 +20,6 @@ namespace {
 constexpr double kNumberUnits = 38;
 constexpr double kNameUnits = 72;
 constexpr double kPreviewUnits = 40;
-
-int pixels(double units, double scale) {
-    return static_cast<int>(std::lround(units * scale));
-}
 
 // The colour as it was asked for.
 class Preview : public QWidget {

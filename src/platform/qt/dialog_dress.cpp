@@ -23,10 +23,6 @@ constexpr double kLetterUnits = 9;
 constexpr double kIconUnits = 24;
 constexpr int kStopFace = 2;  // of the light
 
-int pixels(double units, double scale) {
-    return static_cast<int>(std::lround(units * scale));
-}
-
 QPalette nightPalette() {
     const QColor text = toolkitColor(palette::kText);
     const QColor ground = toolkitColor(palette::kChrome);
@@ -131,6 +127,10 @@ class DialogTitle : public QLabel {
 };
 
 }  // namespace
+
+int pixels(double units, double scale) {
+    return static_cast<int>(std::lround(units * scale));
+}
 
 void dressApplication(double scale) {
     const int letters = pixels(kLetterUnits, scale);

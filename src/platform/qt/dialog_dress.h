@@ -8,6 +8,9 @@ namespace ombrelia {
 
 class Skin;
 
+// Units of the editor's windows as device pixels.
+int pixels(double units, double scale);
+
 // Colours and letters of every dialog that the toolkit draws itself; the desktop's own stay as they
 // are. scale: device pixels to a unit. Cheap after the first call.
 void dressApplication(double scale);

@@ -9,7 +9,6 @@
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
-#include <cmath>
 #include <utility>
 
 #include "platform/messages.h"
@@ -24,10 +23,6 @@ constexpr QSizeF kLeastUnits(420, 280);
 constexpr QSizeF kUsualUnits(500, 320);
 constexpr double kPlacesUnits = 104;  // the list of places at the left
 constexpr int kTypeColumn = 2;        // says what the name says already
-
-int pixels(double units, double scale) {
-    return static_cast<int>(std::lround(units * scale));
-}
 
 }  // namespace
 
