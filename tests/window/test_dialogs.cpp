@@ -141,7 +141,9 @@ TEST(FileDialogs, an_empty_file_is_used_after_a_question) {
         expectSentBack(driver, empty, "empty");  // No is the default
         QWidget* dialog = nullptr;
         driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
-        ASSERT_TRUE(driver.keyUntil("Return", [&] { return isAnotherInFront(dialog); }));
+        ASSERT_TRUE(
+            driver.keyUntil("Return", [&] { return QApplication::activeModalWidget() != dialog; }));
+        ASSERT_TRUE(driver.waitFor([&] { return isAnotherInFront(dialog); }));
         EXPECT_TRUE(driver.keyUntil("alt+y", [&] { return QFileInfo(empty).size() == 5498; }));
     });
 }
