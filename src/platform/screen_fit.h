@@ -11,9 +11,9 @@ struct EditorSize {
     double width, dockedWidth, height;
 };
 
-// Device pixels to a unit on a screen with so many free ones: the largest of kScales at which all of
-// it fits. 1 where the editor alone does; below it the largest of 0.9 to 0.5 at which it does, and
-// at last 0.5.
+// Device pixels to a unit on a screen with so many free ones: the largest of kScales at which all
+// of it fits. 1 where the editor alone does; below it the largest of 0.9 to 0.5 at which it does,
+// and at last 0.5.
 double fittingScale(const EditorSize& editor, double freeWidth, double freeHeight);
 
 // The largest scale of at most this at which a window of its own is no higher than what is free.
