@@ -275,6 +275,24 @@ TEST_F(Contrast, the_tools_to_come_are_paler_than_the_others) {
     EXPECT_LT(strongestToCome, palest);
 }
 
+TEST_F(Contrast, the_marks_of_a_slider_show_below_its_groove) {
+    Image& track = Form1.VertFiller(slider::kPencilThickness);
+    const QImage with = paint(Form1, 2);
+    track.Scale.count = 0;
+    const QImage without = paint(Form1, 2);
+    const QRect place = deviceRect(track, 2);
+    const int row = place.bottom();
+    int runs = 0;
+    bool wasMark = false;
+    for (int x = place.left(); x <= place.right(); ++x) {
+        const bool isMark = with.pixel(x, row) != without.pixel(x, row);
+        runs += isMark && !wasMark ? 1 : 0;
+        wasMark = isMark;
+    }
+    EXPECT_GE(runs, 19);  // of 20 values; the thumb may cover one
+    EXPECT_LE(runs, 20);
+}
+
 TEST_F(Contrast, the_magnifier_stands_inside_its_group) {
     constexpr double kScale = 2;
     constexpr double kAir = 2;  // units
