@@ -95,7 +95,11 @@ class Comparison {
         std::cout << name << " differs at \"" << lines.back() << "\"; lost: " << replay_.lost()
                   << "; is left, cut down, in " << path << std::endl;
         tellDifference(path);
-        write(shortened(std::move(lines)), "differs_" + name + ".txt");
+        lines = shortened(std::move(lines));
+        write(lines, "differs_" + name + ".txt");
+        for (const std::string& line : lines) {
+            std::cout << "  " << line << '\n';
+        }
         return false;
     }
 

@@ -39,13 +39,13 @@ bool XInput::findCorner(const QWidget& window, QPoint& corner) {
 
 void XInput::moveTo(const QPoint& place) {
     XTestFakeMotionEvent(connection_->display, -1, place.x(), place.y(), CurrentTime);
-    XFlush(connection_->display);
+    XSync(connection_->display, False);
 }
 
 void XInput::changeButton(int button, bool isDown) {
     XTestFakeButtonEvent(connection_->display, static_cast<unsigned>(button), isDown ? True : False,
                          CurrentTime);
-    XFlush(connection_->display);
+    XSync(connection_->display, False);
 }
 
 }  // namespace ombrelia::two_ways

@@ -15,7 +15,8 @@ class XInput {
     // Where the server has the window's corner; false while it is not on the screen.
     bool findCorner(const QWidget& window, QPoint& corner);
 
-    // The pointer, device pixels of the screen; the mouse's buttons 1, 2 (the middle) and 3.
+    // The pointer, device pixels of the screen; the mouse's buttons 1, 2 (the middle) and 3. The
+    // server has heard of it before these return: a window shown afterwards finds the new place.
     void moveTo(const QPoint& place);
     void changeButton(int button, bool isDown);
 
