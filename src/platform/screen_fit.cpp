@@ -41,4 +41,12 @@ double keptInside(double wished, double length, double freeBegin, double freeLen
     return std::max(freeBegin, std::min(wished, freeBegin + freeLength - length));
 }
 
+double droppedFrom(double fieldTop, double fieldHeight, double height, double freeTop,
+                   double freeHeight) {
+    const double below = fieldTop + fieldHeight;
+    const double above = fieldTop - height;
+    const bool isOnlyAbove = below + height > freeTop + freeHeight && above >= freeTop;
+    return keptInside(isOnlyAbove ? above : below, height, freeTop, freeHeight);
+}
+
 }  // namespace ombrelia

@@ -23,4 +23,9 @@ double scaleForHeight(double most, double heightUnits, double freeHeight);
 // of this length lies in the free stretch; its begin where it is too long.
 double keptInside(double wished, double length, double freeBegin, double freeLength);
 
+// The top of what drops down from a field, by the same measures: below it, above it where only
+// there is room for all of it, else inside what is free.
+double droppedFrom(double fieldTop, double fieldHeight, double height, double freeTop,
+                   double freeHeight);
+
 }  // namespace ombrelia

@@ -24,16 +24,6 @@ constexpr double kNearScale = 1;
 constexpr double kFarScale = 4;  // 3840 by 2160 device pixels hold the editor four times as large
 constexpr double kFarRatio = 2;
 
-WindowView* viewOf(const Window& window) {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* view = dynamic_cast<WindowView*>(widget);
-        if (view != nullptr && &view->window() == &window && view->isVisible()) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
 QScreen* screenNamed(const char* name) {
     for (QScreen* screen : QGuiApplication::screens()) {
         if (screen->name() == QLatin1String(name)) {

@@ -52,17 +52,6 @@ class Ear : public QAbstractNativeEventFilter {
     HeardEvents& heard_;
 };
 
-WindowView* viewOf(const Window& window) {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* view = dynamic_cast<WindowView*>(widget);
-        if (view != nullptr && &view->window() == &window && view->isVisible() &&
-            view->windowHandle()->isExposed()) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
 double scaleOf(const WindowView& view) {
     return view.width() * view.devicePixelRatioF() / view.window().Width;
 }
@@ -81,6 +70,17 @@ QPoint onScreen(Control& control, double x, double y) {
 }
 
 }  // namespace
+
+WindowView* viewOf(const Window& window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* view = dynamic_cast<WindowView*>(widget);
+        if (view != nullptr && &view->window() == &window && view->isVisible() &&
+            view->windowHandle()->isExposed()) {
+            return view;
+        }
+    }
+    return nullptr;
+}
 
 void ScreenDriver::run(const std::function<void(ScreenDriver&)>& story, int yieldMilliseconds) {
     ASSERT_TRUE(std::getenv("DISPLAY") != nullptr || std::getenv("QT_QPA_PLATFORM") != nullptr)

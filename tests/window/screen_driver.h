@@ -19,6 +19,8 @@ enum class InputKind { KeyPress = 2, KeyRelease, ButtonPress, ButtonRelease, Mot
 // Events of each kind that reached the program.
 using HeardEvents = std::array<std::atomic<int>, 7>;
 
+class WindowView;
+
 class ScreenDriver {
   public:
     // Runs the program from its start; story is told in a second thread and, when it is over, the
@@ -91,5 +93,8 @@ class ScreenDriver {
     void tell(const std::string& words, InputKind kind, int events = 1);
     void movePointer(const QPoint& place);
 };
+
+// The view of a window that is on the screen; or null. For the thread of the program.
+WindowView* viewOf(const Window& window);
 
 }  // namespace ombrelia

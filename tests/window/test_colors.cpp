@@ -170,6 +170,26 @@ TEST(Colors, the_sets_of_the_program_cannot_be_deleted) {
     });
 }
 
+TEST(Colors, the_list_never_opens_over_itself) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        driver.inProgram([] {
+            QWidget* editor = viewOf(Form1);
+            editor->move(20, editor->screen()->availableGeometry().bottom() - editor->height());
+        });
+        driver.rest(300);
+        driver.click(Form1.Combo1);
+        EXPECT_TRUE(driver.waitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        driver.rest(300);  // and stays after the release
+        driver.inProgram([] {
+            const QWidget* menu = QApplication::activePopupWidget();
+            ASSERT_NE(menu, nullptr);
+            EXPECT_TRUE(menu->screen()->geometry().contains(menu->geometry()));
+            EXPECT_FALSE(menu->geometry().contains(QCursor::pos()));
+        });
+    });
+}
+
 namespace {
 
 // The colour of the dialog in front.

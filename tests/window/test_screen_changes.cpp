@@ -39,16 +39,6 @@ void takeMode(const QString& name) {
         {QStringLiteral("--output"), QStringLiteral("screen"), QStringLiteral("--mode"), name});
 }
 
-const WindowView* viewOf(const Window& window) {
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        const auto* view = dynamic_cast<const WindowView*>(widget);
-        if (view != nullptr && &view->window() == &window && view->isVisible()) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
 // Both windows have this scale and lie on the screen, the hint frame beside the editor if there is
 // room for it.
 bool standsWell(double scale, bool isBeside) {
@@ -102,7 +92,7 @@ TEST(ScreenChanges, an_editor_at_the_edge_comes_inside) {
         takeMode("m1280x800");
         ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
         expectStandsWell(driver, 1.25, true);
-        driver.inProgram([] { const_cast<WindowView*>(viewOf(Form1))->move(1000, 700); });
+        driver.inProgram([] { viewOf(Form1)->move(1000, 700); });
         driver.rest(300);
         takeMode("1920x1080");
         expectStandsWell(driver, 2, true);
@@ -113,7 +103,7 @@ TEST(ScreenChanges, the_hint_frame_never_leaves_the_screen) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
         driver.inProgram([] {
-            auto* editor = const_cast<WindowView*>(viewOf(Form1));
+            auto* editor = viewOf(Form1);
             editor->move(editor->screen()->geometry().width() - editor->width(), 100);
         });
         expectStandsWell(driver, 2, false);
@@ -123,7 +113,7 @@ TEST(ScreenChanges, the_hint_frame_never_leaves_the_screen) {
 TEST(ScreenChanges, a_game_opens_in_the_middle_of_the_editor) {
     ScreenDriver::run([](ScreenDriver& driver) {
         ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        driver.inProgram([] { const_cast<WindowView*>(viewOf(Form1))->move(10, 200); });
+        driver.inProgram([] { viewOf(Form1)->move(10, 200); });
         driver.rest(300);
         driver.inProgram([] { runHandler([] { showWindow(Form2); }); });
         ASSERT_TRUE(driver.waitForWindow(Form2));

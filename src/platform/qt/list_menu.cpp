@@ -7,6 +7,7 @@
 
 #include "platform/control.h"
 #include "platform/qt/palette_style.h"
+#include "platform/screen_fit.h"
 
 namespace ombrelia {
 
@@ -35,7 +36,7 @@ QString entryText(const std::string& name) {
 
 }  // namespace
 
-void openListMenu(QWidget& parent, const ListBox& list, const QPoint& corner, int widthDevice,
+void openListMenu(QWidget& parent, const ListBox& list, const QRect& field, const QRect& free,
                   double scale, const std::function<void(int)>& chosen) {
     auto* menu = new QMenu(&parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -45,8 +46,7 @@ void openListMenu(QWidget& parent, const ListBox& list, const QPoint& corner, in
         return std::max(1, static_cast<int>(std::lround(units * unit)));
     };
     const int edge = pixels(1);
-    const int width =
-        static_cast<int>(widthDevice / parent.devicePixelRatioF()) - 4 * edge - 2 * pixels(5);
+    const int width = field.width() - 4 * edge - 2 * pixels(5);
     menu->setStyleSheet(
         kMenuStyle.sheet().arg(pixels(11)).arg(edge).arg(pixels(3)).arg(pixels(5)).arg(width));
     for (std::size_t i = 0; i < list.List.size(); ++i) {
@@ -59,7 +59,10 @@ void openListMenu(QWidget& parent, const ListBox& list, const QPoint& corner, in
             menu->setActiveAction(action);
         }
     }
-    menu->popup(corner);
+    const QPoint corner = parent.mapToGlobal(field.topLeft());
+    menu->popup({corner.x(), static_cast<int>(droppedFrom(corner.y(), field.height(),
+                                                          menu->sizeHint().height(), free.top(),
+                                                          free.height()))});
 }
 
 }  // namespace ombrelia

@@ -165,9 +165,9 @@ void WindowView::press(PointerKind kind, QMouseEvent* event) {
 }
 
 void WindowView::openList(ListBox& list) {
-    const QRect place = deviceRect(list, scale_);
-    const QPoint corner = mapToGlobal(logicalRect(place).bottomLeft() + QPoint(0, 1));
-    openListMenu(*this, list, corner, place.width(), scale_, [this, &list](int entry) {
+    const QRect field = logicalRect(deviceRect(list, scale_));
+    const QRect free = desktop_.screenOf(window_).availableGeometry();
+    openListMenu(*this, list, field, free, scale_, [this, &list](int entry) {
         if (!window_.Loaded || entry >= static_cast<int>(list.List.size()) ||
             !ombrelia::isEnabled(list)) {
             return;

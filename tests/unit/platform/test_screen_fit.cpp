@@ -47,6 +47,15 @@ TEST(ScreenFit, a_window_comes_inside) {
     EXPECT_EQ(keptInside(40, 700, 20, 640), 20);
 }
 
+TEST(ScreenFit, a_list_drops_down_beside_its_field) {
+    EXPECT_EQ(droppedFrom(100, 20, 200, 0, 480), 120);
+    EXPECT_EQ(droppedFrom(260, 20, 200, 0, 480), 280);
+    EXPECT_EQ(droppedFrom(261, 20, 200, 0, 480), 61);
+    EXPECT_EQ(droppedFrom(261, 20, 200, 62, 418), 280);  // the top of the screen is taken
+    EXPECT_EQ(droppedFrom(240, 20, 400, 0, 480), 80);
+    EXPECT_EQ(droppedFrom(240, 20, 900, 0, 480), 0);
+}
+
 }  // namespace
 
 }  // namespace ombrelia
