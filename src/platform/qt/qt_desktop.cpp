@@ -52,6 +52,13 @@ void settleRegisters() {
 void settleRegisters() {}
 #endif
 
+// Where the window's middle lies; what the toolkit knows of it can be of before it was moved.
+const QScreen& screenUnder(const WindowView& view) {
+    const QScreen* there =
+        canPlaceWindows() ? QGuiApplication::screenAt(view.frameGeometry().center()) : nullptr;
+    return there == nullptr ? *view.screen() : *there;
+}
+
 }  // namespace
 
 QtDesktop::QtDesktop() {
@@ -108,16 +115,16 @@ const QScreen& QtDesktop::screenOf(const Window& window) const {
     const Window& owner = window.DockedTo == nullptr ? window : *window.DockedTo;
     for (const auto& [other, view] : views_) {
         if (other == &owner && view->isVisible()) {
-            return *view->screen();
+            return screenUnder(*view);
         }
     }
     const WindowView* parent = dialogParent();
-    return parent == nullptr ? *QGuiApplication::primaryScreen() : *parent->screen();
+    return parent == nullptr ? *QGuiApplication::primaryScreen() : screenUnder(*parent);
 }
 
 double QtDesktop::scale() const {
     const WindowView* parent = dialogParent();
-    return scaleOn(parent == nullptr ? *QGuiApplication::primaryScreen() : *parent->screen());
+    return scaleOn(parent == nullptr ? *QGuiApplication::primaryScreen() : screenUnder(*parent));
 }
 
 double QtDesktop::scaleOf(const Window& window) const {

@@ -42,6 +42,9 @@ class QtDesktop : public QObject, public Desktop {
     // Where a window is to open in the middle of: a game of the editor, another of its screen.
     QRect placeAround(const Window& window) const;
 
+    // The screens have changed, or a window has come to another.
+    void fitSoon();
+
     // A window has another scale: what docks to it takes the same.
     void rescaleDocked(const Window& host);
 
@@ -110,7 +113,6 @@ class QtDesktop : public QObject, public Desktop {
     bool runOrEnd(const std::function<void()>& event);
     double scaleOn(const QScreen& screen) const;
     void watchScreen(QScreen* screen);
-    void fitSoon();
     // Every window takes the scale of its screen anew and comes inside it.
     void fitScreens();
     void showDocked(Window& host);

@@ -60,7 +60,7 @@ void WindowView::keepInside() {
 
 void WindowView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    connect(windowHandle(), &QWindow::screenChanged, this, &WindowView::fitScreen,
+    connect(windowHandle(), &QWindow::screenChanged, &desktop_, &QtDesktop::fitSoon,
             Qt::UniqueConnection);
 }
 
