@@ -33,7 +33,10 @@ class DialogKeeper : public QObject {
         if (dialog != nullptr && event->type() == QEvent::Show) {
             dialog->setOption(QFileDialog::ReadOnly);
             stay(*dialog);
-            connect(dialog, &QFileDialog::directoryEntered, dialog, [dialog] { stay(*dialog); });
+            // Not at once: the dialog may still be on its way into the folder.
+            connect(
+                dialog, &QFileDialog::directoryEntered, dialog, [dialog] { stay(*dialog); },
+                Qt::QueuedConnection);
         }
         return false;
     }
