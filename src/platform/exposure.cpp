@@ -1,6 +1,7 @@
 #include "platform/exposure.h"
 
 #include "platform/dispatch.h"
+#include "platform/window_life.h"
 
 namespace ombrelia {
 
@@ -12,7 +13,7 @@ constexpr long long kSettleMilliseconds = 200;
 }  // namespace
 
 void deliverExposure(Window& window) {
-    if (window.Visible && !window.Minimized) {
+    if (isSeen(window)) {
         deliver(window, Event::Paint);
     }
 }

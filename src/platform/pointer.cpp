@@ -5,6 +5,7 @@
 
 #include "platform/dispatch.h"
 #include "platform/services.h"
+#include "platform/window_life.h"
 
 namespace ombrelia {
 
@@ -201,7 +202,7 @@ void leave(Window& window) {
 }  // namespace
 
 void pointerInput(Window& window, double scale, const PointerInput& input) {
-    if (!window.Loaded || !window.Visible) {
+    if (!isSeen(window)) {
         return;
     }
     const Place place = placeOf(input, scale);

@@ -55,12 +55,17 @@ void minimizeWindow(Window& window) {
     services().desktop->minimize(window);
 }
 
+bool isSeen(const Window& window) {
+    return window.Loaded && window.Visible && !window.Minimized &&
+           (window.DockedTo == nullptr || isSeen(*window.DockedTo));
+}
+
 void refreshControl(Control& control) {
     services().desktop->refresh(control);
 }
 
 void requestPaint(Window& window) {
-    if (window.Visible && !window.Minimized) {
+    if (isSeen(window)) {
         raise(window, Event::Paint);
     }
 }

@@ -19,6 +19,9 @@ void unloadWindow(Window& window);
 
 void minimizeWindow(Window& window);
 
+// Whether the window is on the screen: shown, not minimized, and its host too if it docks to one.
+bool isSeen(const Window& window);
+
 // Has what was drawn or changed so far on the control's window shown; the platform may gather such
 // wishes.
 void refreshControl(Control& control);

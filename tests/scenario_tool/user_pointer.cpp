@@ -5,16 +5,9 @@
 
 #include "app/bindings.h"
 #include "errors.h"
+#include "platform/window_life.h"
 
 namespace ombrelia::scenario {
-
-namespace {
-
-bool isSeen(const Window& window) {
-    return window.Loaded && window.Visible && !window.Minimized;
-}
-
-}  // namespace
 
 UserPointer::Spot UserPointer::spotIn(Window& window, double x, double y) const {
     return {&window, std::floor(x * scale_), std::floor(y * scale_)};

@@ -11,6 +11,7 @@
 #include "core/windows/form1.h"
 #include "errors.h"
 #include "platform/dispatch.h"
+#include "platform/window_life.h"
 
 namespace ombrelia::two_ways {
 
@@ -76,7 +77,7 @@ class Maker {
     std::vector<Window*> windows() const {
         std::vector<Window*> seen;
         for (Window* window : allWindows()) {
-            if (window->Loaded && window->Visible && !window->HasFrame) {
+            if (isSeen(*window) && !window->HasFrame) {
                 seen.push_back(window);
             }
         }

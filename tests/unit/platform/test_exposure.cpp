@@ -36,6 +36,7 @@ TEST(Exposures, a_window_that_is_not_seen_is_asked_for_nothing) {
     paints = 0;
     deliverExposure(window);
     EXPECT_EQ(paints, 0);
+    window.Loaded = true;
     window.Visible = true;
     deliverExposure(window);
     EXPECT_EQ(paints, 1);

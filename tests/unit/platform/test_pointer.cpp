@@ -448,6 +448,21 @@ TEST_F(WheelOver, says_nothing_on_a_disabled_part_or_inside_one) {
     EXPECT_TRUE(heard.empty());
 }
 
+TEST_F(Pointer, a_window_is_seen_with_the_one_that_it_docks_to) {
+    Window host;
+    window.DockedTo = &host;
+    EXPECT_FALSE(isSeen(window));
+    move(12, 12);
+    EXPECT_EQ(heard, Log{});
+    host.Loaded = true;
+    host.Visible = true;
+    move(12, 12);
+    EXPECT_EQ(heard, Log{"face move"});
+    host.Minimized = true;
+    EXPECT_FALSE(isSeen(window));
+    window.DockedTo = nullptr;
+}
+
 TEST_F(WheelOver, waits_for_no_held_button) {
     press(80, 20);
     turn(80, 20, 1);
