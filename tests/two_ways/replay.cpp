@@ -90,13 +90,15 @@ void Replay::takeScale(double scale) {
 }
 
 void Replay::begin() {
-    inside_ = nullptr;
     input_.moveTo(kNowhere);
     place_ = kNowhere;
     for (const MouseButton button : {MouseButton::Left, MouseButton::Middle, MouseButton::Right}) {
         input_.changeButton(buttonNumber(button), false);
     }
-    QCoreApplication::processEvents();  // the end of whatever the last session was at
+    // The end of whatever the last session was at: what the toolkit hears of a button after its
+    // window has gone is lost on it, and it takes the button for held.
+    waitUntil(
+        [this] { return inside_ == nullptr && QGuiApplication::mouseButtons() == Qt::NoButton; });
     screen_.reset();
     lost_.clear();
     session_ = std::make_unique<scenario::Session>();
@@ -181,6 +183,7 @@ bool Replay::eventFilter(QObject* target, QEvent* event) {
             inside_ = target;
             ++seen_[QEvent::MouseMove];  // to the place where it comes in
             return false;
+        case QEvent::Hide:
         case QEvent::Leave:
             inside_ = inside_ == target ? nullptr : inside_;
             return false;
@@ -229,7 +232,9 @@ void Replay::pointer(Window& window, const PointerInput& input) {
             return;  // a screen says nothing of a pointer that stays
         }
         input_.moveTo(place);
-        await("a move", [&] { return seen_[QEvent::MouseMove] > before; });
+        if (!await("a move", [&] { return seen_[QEvent::MouseMove] > before; })) {
+            lost_ += input_.places(*view) + "; ";
+        }
         return;
     }
     const bool isRelease = input.kind == PointerKind::Release;

@@ -2,6 +2,7 @@
 
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
+#include <sstream>
 #include <stdexcept>
 
 namespace ombrelia::two_ways {
@@ -46,6 +47,23 @@ void XInput::changeButton(int button, bool isDown) {
     XTestFakeButtonEvent(connection_->display, static_cast<unsigned>(button), isDown ? True : False,
                          CurrentTime);
     XSync(connection_->display, False);
+}
+
+std::string XInput::places(const QWidget& window) {
+    Display* display = connection_->display;
+    ::Window root = 0;
+    ::Window under = 0;
+    int x = 0;
+    int y = 0;
+    int own = 0;
+    unsigned held = 0;
+    XQueryPointer(display, DefaultRootWindow(display), &root, &under, &x, &y, &own, &own, &held);
+    QPoint corner(-1, -1);
+    findCorner(window, corner);
+    std::ostringstream text;
+    text << "pointer at " << x << ' ' << y << " over window " << under << ", buttons " << held
+         << "; window " << window.internalWinId() << " at " << corner.x() << ' ' << corner.y();
+    return text.str();
 }
 
 }  // namespace ombrelia::two_ways

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 namespace ombrelia::two_ways {
 
@@ -19,6 +20,9 @@ class XInput {
     // server has heard of it before these return: a window shown afterwards finds the new place.
     void moveTo(const QPoint& place);
     void changeButton(int button, bool isDown);
+
+    // Where the server has the pointer and the window, for what is told of an event that got lost.
+    std::string places(const QWidget& window);
 
   private:
     struct Connection;
