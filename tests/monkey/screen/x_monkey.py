@@ -3,9 +3,10 @@
 
     x_monkey.py EDITOR SECONDS [SEED]
 
-Every few seconds all is let go, dialogs are left, and the desk must come in order. A program that
-ends as it was asked to is started anew. Fails at a crash, at a program that does not answer and at
-a desk that stays out of order."""
+Every few seconds all is let go, dialogs are left, and the desk must come in order; then the screen
+may change its size. A program that ends as it was asked to is started anew, with settings that may
+be spoilt, in a folder of hostile files. Fails at a crash, at a program that does not answer, at a
+desk that stays out of order and at settings that could not be read and were replaced."""
 import collections
 import ctypes
 import os
@@ -18,10 +19,13 @@ import tempfile
 import threading
 import time
 
+import hard_life
+
 PATIENCE = 60  # seconds for an answer, on a busy machine
 PAUSE = 0.004  # seconds between two events, about
 EVENTS_OF_ROUND = 1500
 NEW_START = 0.1  # chance after a round
+NEW_SCREEN = 0.3
 ROUNDS_WITHOUT_EDITOR = 3
 LEAST_SHOWN = 60  # pixels of a window that can be hit
 KEYS = ["Return", "Escape", "Tab", "space", "Left", "Right", "Up", "Down", "Home", "End", "Prior",
@@ -104,10 +108,8 @@ class Editor:
         (tools / "xdg-open").write_text("#!/bin/sh\n")  # no browser of this machine
         (tools / "xdg-open").chmod(0o755)
         environment["PATH"] = f"{tools}:{environment['PATH']}"
-        maps = self.folder / "maps"
-        maps.mkdir(exist_ok=True)
-        self.process = subprocess.Popen([path], cwd=maps, env=environment, text=True,
-                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.process = subprocess.Popen([path], cwd=hard_life.make_folder(folder), env=environment,
+                                        text=True, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         self.answers = queue.Queue()
         threading.Thread(target=self.read, daemon=True).start()
 
@@ -143,6 +145,7 @@ class User:
         self.screen, self.chance = screen, random.Random(seed)
         self.place = (0, 0)
         self.seen = collections.Counter()
+        self.doors = {}  # where a click brought up a dialog, by its title
 
     def any_place(self, look):
         windows = [look.modal] if look.modal and self.chance.random() < 0.9 else look.windows
@@ -159,7 +162,14 @@ class User:
         self.screen.move(*self.place)
 
     def click(self, look):
-        self.place = self.any_place(look)
+        self.click_at(self.any_place(look))
+
+    def go_through_door(self, look):
+        if self.doors and not look.dialog:
+            self.click_at(self.doors[self.chance.choice(sorted(self.doors))])
+
+    def click_at(self, place):
+        self.place = place
         self.screen.move(*self.place)
         button = self.chance.choice([1, 1, 1, 1, 1, 1, 2, 3])
         for _ in range(self.chance.choice([1, 1, 1, 2])):
@@ -194,11 +204,13 @@ class User:
 
     def act(self, look):
         self.seen[look.dialog.strip() or ("the editor" if look.is_loaded else "the start")] += 1
-        if look.dialog and self.chance.random() < 0.05:
-            self.answer_dialog(look)
-            return
+        if look.dialog:
+            self.doors.setdefault(look.dialog, self.place)
+            if self.chance.random() < 0.05:
+                self.answer_dialog(look)
+                return
         deeds = [(40, self.click), (25, self.move), (20, self.drag), (10, self.press_key),
-                 (4, self.leave_dialog), (1, self.close_window)]
+                 (3, self.go_through_door), (4, self.leave_dialog), (1, self.close_window)]
         self.chance.choices([d for _, d in deeds], [w for w, _ in deeds])[0](look)
         time.sleep(PAUSE)
 
@@ -220,7 +232,7 @@ def come_in_order(editor, screen):
                 f"{look.told}; the keyboard is at {screen.active_window()}")
 
 
-def play(path, folder, screen, user, until):
+def play(path, folder, screen, screens, user, until):
     """One life of the program. It ends too when its windows were closed or moved off the screen,
     by the window manager's keys, so that a user by chance does not find them again."""
     editor = Editor(path, folder)
@@ -237,6 +249,9 @@ def play(path, folder, screen, user, until):
                 user.act(look)
             look = come_in_order(editor, screen)
             rounds += 1
+            if user.chance.random() < NEW_SCREEN:
+                screen.width, screen.height = screens.change()
+                user.seen["a change of the screen"] += 1
             missing = 0 if look.is_loaded else missing + 1
             if missing == ROUNDS_WITHOUT_EDITOR or user.chance.random() < NEW_START:
                 break
@@ -254,19 +269,28 @@ def main():
     seed = int(sys.argv[3]) if len(sys.argv) > 3 else 1
     screen = Screen()
     user = User(screen, seed)
+    screens = hard_life.Screens(screen.width, screen.height, user.chance)
     began = time.monotonic()
     starts = rounds = 0
     with tempfile.TemporaryDirectory() as folder:
+        settings = hard_life.Settings(f"{folder}/conf", user.chance)
+        spoilt = collections.Counter()
         try:
             while time.monotonic() < began + seconds:
-                rounds += play(path, folder, screen, user, began + seconds)
+                what = settings.spoil()
+                spoilt[what] += 1
+                rounds += play(path, folder, screen, screens, user, began + seconds)
                 starts += 1
+                wrong = settings.check(what)
+                if wrong:
+                    raise Wrong(wrong)
         except Wrong as wrong:
             print(f"seed {seed}, after {screen.events} events: {wrong}")
             return 1
-        maps = len(list(pathlib.Path(folder, "maps").iterdir()))
+    changes = user.seen.pop("a change of the screen", 0)
     print(f"{screen.events} events in {time.monotonic() - began:.0f} s, {starts} starts, "
-          f"{rounds} times in order, {maps} files saved")
+          f"{rounds} times in order, {changes} changes of the screen")
+    print("settings " + ", ".join(f"{what} {count}" for what, count in spoilt.most_common()))
     total = sum(user.seen.values())
     print("in " + ", ".join(f"{title} {100 * n / total:.0f} %" for title, n in
                             user.seen.most_common()))
