@@ -13,6 +13,7 @@
 #include "panels/option_frames.h"
 #include "platform/qt/color_dialog.h"
 #include "platform/qt/color_parts.h"
+#include "platform/qt/window_view.h"
 #include "stories.h"
 
 namespace ombrelia {
