@@ -9,7 +9,6 @@ import pathlib
 import subprocess
 import sys
 import tempfile
-import threading
 
 from gi.repository import Gio, GLib
 
@@ -55,24 +54,10 @@ class Portal:
             sender, request, "org.freedesktop.portal.Request", "Response", answer) and False)
 
 
-def press(name):
-    """Beside what follows, since the press of a button that opens a dialog returns with that."""
-    part = tree.wait_for(lambda: tree.find(name, "push button"))
-    tree.expect(part is not None, f"there is no button '{name}'")
-
-    def wait_for_its_end():
-        try:
-            tree.Atspi.Action.do_action(part, 0)
-        except GLib.Error:
-            pass  # it took longer than an answer may
-    if part is not None:
-        threading.Thread(target=wait_for_its_end, daemon=True).start()
-
-
 def check_dialogs(portal, folder):
     saved = folder / "from the portal.bmp"
     portal.answers = [saved]
-    press("Save")
+    tree.press("Save", "push button")
     tree.expect(tree.wait_for(lambda: saved.exists() and saved.stat().st_size > 1000),
                 "the map is not where the portal said")
     tree.expect(portal.asked and portal.asked[0][:2] == ("SaveFile", "Save Terrain"),
@@ -81,14 +66,14 @@ def check_dialogs(portal, folder):
     # What holds something is never replaced: that is said, and the portal is asked again.
     before = saved.read_bytes()
     portal.answers = [saved, None]
-    press("Save")
+    tree.press("Save", "push button")
     tree.expect(tree.wait_for(lambda: len(portal.asked) == 2), "the second save asks nothing")
     tree.press("OK", "push button")
     tree.expect(tree.wait_for(lambda: len(portal.asked) == 3), "the save does not go back")
     tree.expect(saved.read_bytes() == before, "the map that was there is another one")
 
     portal.answers = [saved]
-    press("Import")
+    tree.press("Import", "push button")
     tree.expect(tree.wait_for(lambda: len(portal.asked) == 4), "the import asks nothing")
     if len(portal.asked) == 4:
         method, _, options = portal.asked[3]
@@ -114,6 +99,7 @@ def main():
             if opened:
                 check_dialogs(portal, folder)
             tree.expect(editor.poll() is None, "the editor has ended")
+            tree.leave(editor)
         finally:
             editor.kill()
             editor.wait()

@@ -168,6 +168,16 @@ def check_generate():
     check_told("Line tool", "radio button", "enabled", 1, "a tool enabled again is not told of")
 
 
+def leave(editor):
+    """By the close button and the question that it asks."""
+    press("Close", "push button")
+    press("Yes", "push button")
+    try:
+        expect(editor.wait(20) == 0, "the editor did not end well")
+    except subprocess.TimeoutExpired:
+        expect(False, "the editor did not end")
+
+
 def main():
     Atspi.init()
     listener = listen()  # noqa: F841  heard as long as it lives
@@ -182,6 +192,7 @@ def main():
             check_slider()
             check_generate()
         expect(editor.poll() is None, "the editor has ended")
+        leave(editor)
     finally:
         editor.kill()
         editor.wait()

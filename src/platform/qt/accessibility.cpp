@@ -151,9 +151,14 @@ class ControlAccess : public QAccessibleInterface,
     QStringList actionNames() const override { return {pressAction()}; }
     QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
     void doAction(const QString& action) override {
-        if (action == pressAction() && isValid()) {
-            view_->desktop().input([this] { pressWithoutPointer(control_); });
+        if (action != pressAction() || !isValid()) {
+            return;
         }
+        // Who asked is answered first, and not when the dialog that the press opens is over.
+        const auto press = [&view = *view_, &control = control_] {
+            view.desktop().input([&control] { pressWithoutPointer(control); });
+        };
+        QMetaObject::invokeMethod(view_, press, Qt::QueuedConnection);
     }
 
     QVariant currentValue() const override { return ask().Value; }
