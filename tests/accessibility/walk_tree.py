@@ -149,6 +149,18 @@ def check_states():
     expect(turned, "the check box does not turn")
 
 
+def check_places():
+    menu = find("Menu", "push button")
+    window = menu.get_parent()
+    place = Atspi.Component.get_extents(menu, Atspi.CoordType.SCREEN)
+    at = Atspi.Component.get_accessible_at_point(window, place.x + 2, place.y + 2, Atspi.CoordType.SCREEN)
+    expect(at is not None and at.get_name() == "Menu", "the button is not found at its place")
+    beyond = Atspi.Component.get_accessible_at_point(window, -5, -5, Atspi.CoordType.SCREEN)
+    expect(beyond is None or beyond.get_name() != "Menu", "the button is found elsewhere")
+    again = window.get_child_at_index(menu.get_index_in_parent())
+    expect(again is not None and again.get_name() == "Menu", "the button's number is another's")
+
+
 def check_slider():
     slider = find("Detail", "slider")
     limits = (Atspi.Value.get_minimum_value(slider), Atspi.Value.get_maximum_value(slider))
@@ -189,6 +201,7 @@ def main():
         if not faults:
             check_parts()
             check_states()
+            check_places()
             check_slider()
             check_generate()
         expect(editor.poll() is None, "the editor has ended")

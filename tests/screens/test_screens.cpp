@@ -1,8 +1,10 @@
 // The real windows on two screens of different size and density, none of which is real: on the near
 // one a unit is a pixel, the far one is large and has two device pixels to a logical one.
 #include <QApplication>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -13,6 +15,7 @@
 #include "core/windows/small_windows.h"
 #include "platform/dispatch.h"
 #include "platform/qt/window_view.h"
+#include "platform/services.h"
 #include "platform/window_life.h"
 #include "window/screen_driver.h"
 
@@ -90,6 +93,41 @@ TEST(Screens, what_opens_later_opens_beside_the_editor) {
         driver.inProgram([] {
             expectSize(HelpBox, kFarScale, kFarRatio);
             EXPECT_TRUE(screenNamed("far")->geometry().contains(viewOf(HelpBox)->geometry()));
+        });
+    });
+}
+
+TEST(Screens, windows_move_by_their_titles_where_the_system_moves_none) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver));
+        const auto drag = [](QWidget& part, const QPoint& from, const QPoint& by) {
+            const auto send = [&](QEvent::Type kind, const QPoint& screen, Qt::MouseButtons held) {
+                QMouseEvent event(kind, part.mapFromGlobal(screen), screen, Qt::LeftButton, held,
+                                  Qt::NoModifier);
+                QCoreApplication::sendEvent(&part, &event);
+            };
+            const QPoint begin = part.mapToGlobal(from);
+            send(QEvent::MouseButtonPress, begin, Qt::LeftButton);
+            send(QEvent::MouseMove, begin + by / 2, Qt::LeftButton);
+            send(QEvent::MouseMove, begin + by, Qt::LeftButton);
+            send(QEvent::MouseButtonRelease, begin + by, Qt::NoButton);
+            send(QEvent::MouseMove, begin, Qt::NoButton);
+        };
+        const QPoint by(60, 40);
+        driver.inProgram([&] {
+            WindowView& editor = *viewOf(Form1);
+            const QPoint before = editor.pos();
+            drag(editor, {200, 10}, by);
+            EXPECT_EQ(editor.pos(), before + by);
+            QTimer::singleShot(0, [] { services().dialogs->askInput("Text", "Title"); });
+        });
+        ASSERT_TRUE(driver.waitForDialog("Title"));
+        driver.inProgram([&] {
+            QWidget& dialog = *QApplication::activeModalWidget();
+            const QPoint before = dialog.pos();
+            drag(*dialog.findChild<QLabel*>(QStringLiteral("title")), {30, 5}, by);
+            EXPECT_EQ(dialog.pos(), before + by);
+            dialog.close();
         });
     });
 }

@@ -198,14 +198,14 @@ QColor chosenColor() {
     return dynamic_cast<ColorDialog*>(QApplication::activeModalWidget())->color();
 }
 
-// Presses on a part of the dialog in front, at a share of its width and height.
+// Presses on a part of the dialog in front, at a share of its width and height, or drags there.
 template <typename Part>
-void pressPart(double across, double down) {
+void pressPart(double across, double down, QEvent::Type kind = QEvent::MouseButtonPress) {
     for (QWidget* widget : QApplication::activeModalWidget()->findChildren<QWidget*>()) {
         if (auto* part = dynamic_cast<Part*>(widget)) {
             const QPointF place(across * part->width(), down * part->height());
-            QMouseEvent press(QEvent::MouseButtonPress, place, part->mapToGlobal(place),
-                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QMouseEvent press(kind, place, part->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
             QCoreApplication::sendEvent(part, &press);
         }
     }
@@ -255,6 +255,40 @@ TEST(Colors, each_part_of_the_dialog_gives_its_colour) {
             for (int component = 1; component <= 3; ++component) {
                 EXPECT_EQ(ColorRange(4, 1, component), 77);
             }
+        });
+    });
+}
+
+TEST(Colors, the_parts_of_the_dialog_work_by_keys_and_drags) {
+    ScreenDriver::run([](ScreenDriver& driver) {
+        ASSERT_TRUE(openColorPage(driver));
+        driver.click(Form1.Rng1(6));
+        ASSERT_TRUE(driver.waitForDialog("Select a Color"));
+        driver.inProgram([] {
+            const auto drag = QEvent::MouseMove;
+            pressPart<ColorSamples>(0.01, 0.05);
+            pressKey<ColorSamples>(Qt::Key_Right);
+            pressKey<ColorSamples>(Qt::Key_Left);
+            EXPECT_EQ(chosenColor(), QColor(255, 0, 0));
+            pressKey<ColorSamples>(Qt::Key_Down);
+            EXPECT_NE(chosenColor(), QColor(255, 0, 0));
+            pressKey<ColorSamples>(Qt::Key_Up);
+            EXPECT_EQ(chosenColor(), QColor(255, 0, 0));
+            pressPart<ValueBar>(0.5, 0.2);
+            pressPart<ValueBar>(0.5, 0.5, drag);
+            EXPECT_NEAR(chosenColor().value(), 128, 3);
+            const int before = chosenColor().value();
+            pressKey<ValueBar>(Qt::Key_Down);
+            EXPECT_LT(chosenColor().value(), before);
+            pressPart<ColorField>(0.1, 0.1);
+            pressPart<ColorField>(0.5, 0.5, drag);
+            EXPECT_NEAR(chosenColor().hsvHue(), 180, 3);
+            const int saturation = chosenColor().hsvSaturation();
+            pressKey<ColorField>(Qt::Key_Down);
+            EXPECT_LT(chosenColor().hsvSaturation(), saturation);
+            const QColor last = chosenColor();
+            pressKey<ColorField>(Qt::Key_Tab);
+            EXPECT_EQ(chosenColor(), last);
         });
     });
 }

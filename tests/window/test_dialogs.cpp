@@ -163,6 +163,28 @@ TEST(FileDialogs, a_name_is_taken_as_it_is_typed) {
     });
 }
 
+TEST(FileDialogs, a_typed_folder_is_gone_into_and_an_unknown_name_is_told) {
+    const QTemporaryDir folder;
+    ScreenDriver::run([&](ScreenDriver& driver) {
+        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+        pressWide(driver, button::kMenu);
+        openDialog(driver, button::kImport, kImport);
+        const auto isThere = [&] {
+            const auto* dialog = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
+            return dialog != nullptr && dialog->directory() == QDir(folder.path());
+        };
+        ASSERT_TRUE(driver.typeName(folder.path().toStdString()));
+        EXPECT_TRUE(driver.keyUntil("Return", isThere));
+        driver.key("Return");  // on an empty line
+        driver.rest();
+        driver.inProgram([&] { EXPECT_TRUE(isThere()); });
+        ASSERT_TRUE(driver.typeName("nothing.bmp"));
+        EXPECT_TRUE(driver.keyUntil("Return", [&] { return !isThere(); }));
+        EXPECT_NE(driver.dialogText().find("nothing.bmp"), std::string::npos);
+        EXPECT_TRUE(driver.keyUntil("Escape", isThere));
+    });
+}
+
 TEST(FileDialogs, each_begins_where_it_was_last_and_keeps_its_size) {
     const QTemporaryDir folder;
     const QString picture = folder.filePath(QStringLiteral("p.bmp"));
