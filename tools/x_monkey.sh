@@ -7,5 +7,5 @@ cd "$(dirname "$0")/.."
 install_missing "${BUILD_PACKAGES[@]}" "${SCREEN_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
 build release yes watched_editor
 step "Working the real program by chance for ${1:-60} s"
-tools/with_screen.sh 1280x800 python3 tests/monkey/screen/x_monkey.py build/watched_editor \
+tools/with_screen.sh 1920x1080 python3 tests/monkey/screen/x_monkey.py build/watched_editor \
     "${1:-60}" "${2:-1}"
