@@ -212,6 +212,18 @@ TEST(RowReaders, each_kind_of_jpeg_is_as_the_toolkit_has_it) {
     expectAsTheToolkit(printedJpeg(90, 40), 1);  // whose inks younger toolkits round
 }
 
+TEST(RowReaders, notes_of_others_in_a_jpeg_are_passed_over) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(QImageWriter(&buffer, "jpeg").write(colorful(96, 64)));
+    std::string bytes = buffer.data().toStdString();
+    const std::string note = "\xFF\xE5\xFF\xFF" + std::string(0xFFFF - 2, '\xFF');
+    for (int n = 0; n < 4; ++n) {
+        bytes.insert(2, note);  // behind the mark of the begin
+    }
+    expectAsTheToolkit(bytes);
+}
+
 TEST(RowReaders, each_way_to_hold_a_camera_is_as_the_toolkit_has_it) {
     for (int turn = 0; turn < 8; ++turn) {
         QBuffer buffer;
