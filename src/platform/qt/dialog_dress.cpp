@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
@@ -22,6 +23,10 @@ namespace {
 constexpr double kLetterUnits = 9;
 constexpr double kIconUnits = 24;
 constexpr int kStopFace = 2;  // of the light
+
+// Each dialog's pictures get names of their own in the toolkit's cache, which by itself keeps ten
+// MiB of what nobody asks for again.
+constexpr int kCacheKiB = 256;
 
 QPalette nightPalette() {
     const QColor text = toolkitColor(palette::kText);
@@ -137,6 +142,7 @@ void dressApplication(double scale) {
     if (QApplication::font().pixelSize() == letters) {
         return;
     }
+    QPixmapCache::setCacheLimit(kCacheKiB);
     QApplication::setStyle(new ScaledStyle(scale));
     QApplication::setPalette(nightPalette());
     QFont font = QApplication::font();
