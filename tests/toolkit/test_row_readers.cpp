@@ -146,6 +146,14 @@ std::string printedJpeg(int width, int height) {
     return file;
 }
 
+// A JPEG of 96 by 64 with these notes behind the mark of its begin.
+std::string jpegWith(const std::string& notes) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QImageWriter(&buffer, "jpeg").write(colorful(96, 64)));
+    return buffer.data().toStdString().insert(2, notes);
+}
+
 TEST(RowReaders, each_format_of_a_png_is_as_the_toolkit_has_it) {
     for (const QImage::Format format :
          {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
@@ -213,26 +221,23 @@ TEST(RowReaders, each_kind_of_jpeg_is_as_the_toolkit_has_it) {
 }
 
 TEST(RowReaders, notes_of_others_in_a_jpeg_are_passed_over) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    ASSERT_TRUE(QImageWriter(&buffer, "jpeg").write(colorful(96, 64)));
-    std::string bytes = buffer.data().toStdString();
     const std::string note = "\xFF\xE5\xFF\xFF" + std::string(0xFFFF - 2, '\xFF');
-    for (int n = 0; n < 4; ++n) {
-        bytes.insert(2, note);  // behind the mark of the begin
-    }
-    expectAsTheToolkit(bytes);
+    expectAsTheToolkit(jpegWith(note + note + note + note));
 }
 
 TEST(RowReaders, each_way_to_hold_a_camera_is_as_the_toolkit_has_it) {
-    for (int turn = 0; turn < 8; ++turn) {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        QImageWriter writer(&buffer, "jpeg");
-        writer.setTransformation(QImageIOHandler::Transformations(turn));
-        ASSERT_TRUE(writer.write(colorful(96, 64)));
+    // One entry, the orientation, whose value stands at the place of the nine.
+    constexpr char kNotes[] =
+        "\xFF\xE1\0\x22"
+        "Exif\0\0MM\0\x2A\0\0\0\x08\0\1\x01\x12\0\3\0\0\0\1\0\x09\0\0\0\0\0\0";
+    std::string notes(std::begin(kNotes), std::end(kNotes) - 1);
+    char& orientation = notes[notes.find('\x09')];
+    for (int turn = 0; turn <= 9; ++turn) {  // 1 to 8 mean something
+        orientation = static_cast<char>(turn);
+        const std::string jpeg = jpegWith(notes);
         SCOPED_TRACE(turn);
-        expectAsTheToolkit(buffer.data().toStdString());
+        ASSERT_EQ(toolkitReads(jpeg).width(), turn >= 5 && turn <= 8 ? 64 : 96);
+        expectAsTheToolkit(jpeg);
     }
 }
 
