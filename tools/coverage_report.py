@@ -1,9 +1,13 @@
 #!/usr/bin/env python3
-"""Lines and branches of the logic that the tests run, from what llvm-cov exports.
+"""Lines and branches that the tests run, from what llvm-cov exports.
 
-    tools/coverage_report.py FILE      each stretch of lines that never runs, then the table by folder
+    tools/coverage_report.py SHARE FILE
+                each stretch of lines that never runs, then the table by folder; SHARE is "logic" for
+                what stands behind no screen, "screen" for the toolkit's back end
 
 tests/coverage/reasons.tsv names each of those: file, the text of its first line, why no test runs it.
+Fails where fewer lines ran than the share's target, and at a stretch of the logic without a reason; what
+real windows run differs a little each time, so that there it is only told.
 """
 import json
 import os
@@ -13,8 +17,8 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 REASONS = ROOT / "tests/coverage/reasons.tsv"
 FOLDERS = ("desk", "core/windows", "core", "terrain", "files", "views", "panels", "games",
-           "app", "platform")
-TARGET = 98.0
+           "app", "platform/qt", "platform")
+TARGETS = {"logic": 98.0, "screen": 95.0}
 
 
 def runs_by_line(segments, last_line):
@@ -45,12 +49,13 @@ def read_reasons():
     return {(row[0], row[1]): row[2] for row in rows}
 
 
-def logic_files(path):
+def files_of(share, path):
     for entry in json.loads(pathlib.Path(path).read_text())["data"][0]["files"]:
         name = pathlib.PurePosixPath(os.path.normpath(entry["filename"]))
         if name.is_relative_to(ROOT / "src"):
             name = name.relative_to(ROOT / "src").as_posix()
-            if not name.startswith(("platform/qt/", "platform/headless/")):
+            is_screen = name.startswith("platform/qt/")
+            if not name.startswith("platform/headless/") and is_screen == (share == "screen"):
                 yield name, entry
 
 
@@ -66,8 +71,9 @@ def blocks(runs):
 
 
 def main():
+    share, path = sys.argv[1:]
     totals, bare, reasons = {}, [], read_reasons()
-    for name, entry in logic_files(sys.argv[1]):
+    for name, entry in files_of(share, path):
         folder = next(f for f in FOLDERS if name.startswith(f + "/"))
         lines = (ROOT / "src" / name).read_text().split("\n")
         runs = runs_by_line(entry["segments"], len(lines))
@@ -90,7 +96,8 @@ def main():
     for folder in (f for f in FOLDERS + ("all",) if f in totals):
         a, b, c, d = totals[folder]
         print(f"{folder:14} {a:6} {b:6} {100 * b / max(1, a):6.2f} % {c:9} {d:6} {100 * d / max(1, c):6.2f} %")
-    return 1 if bare or 100 * totals["all"][1] / totals["all"][0] < TARGET else 0
+    is_unexplained = bare and share == "logic"
+    return 1 if is_unexplained or 100 * totals["all"][1] / totals["all"][0] < TARGETS[share] else 0
 
 
 if __name__ == "__main__":
