@@ -24,10 +24,6 @@ constexpr double kLetterUnits = 9;
 constexpr double kIconUnits = 24;
 constexpr int kStopFace = 2;  // of the light
 
-// Each dialog's pictures get names of their own in the toolkit's cache, which by itself keeps ten
-// MiB of what nobody asks for again.
-constexpr int kCacheKiB = 256;
-
 QPalette nightPalette() {
     const QColor text = toolkitColor(palette::kText);
     const QColor ground = toolkitColor(palette::kChrome);
@@ -138,11 +134,12 @@ int pixels(double units, double scale) {
 }
 
 void dressApplication(double scale) {
+    // Of the last dialog: each has palettes of its own, by which the toolkit names what it keeps.
+    QPixmapCache::clear();
     const int letters = pixels(kLetterUnits, scale);
     if (QApplication::font().pixelSize() == letters) {
         return;
     }
-    QPixmapCache::setCacheLimit(kCacheKiB);
     QApplication::setStyle(new ScaledStyle(scale));
     QApplication::setPalette(nightPalette());
     QFont font = QApplication::font();
