@@ -11,8 +11,8 @@ import tempfile
 import worked_editor as places
 import x_monkey
 
-ROUNDS_OF_HOUR = 55  # of thirteen deeds each: one in five seconds
-MOST_GROWTH = 2048  # KiB from the second hour to the last
+ROUNDS_OF_HOUR = 40  # of thirteen deeds each: one in seven seconds
+MOST_GROWTH = 1024  # KiB from the second hour to the last
 
 
 def work(life, folder):
@@ -36,8 +36,10 @@ def work(life, folder):
     (folder / "m17").unlink()
 
 
-def measure(process):
-    here = pathlib.Path("/proc", str(process.pid))
+def measure(editor):
+    """What it holds, but for memory that is free inside it."""
+    editor.look("settle")
+    here = pathlib.Path("/proc", str(editor.process.pid))
     pages = int((here / "statm").read_text().split()[1])
     return {"KiB": pages * 4, "files": len(os.listdir(here / "fd")),
             "threads": len(os.listdir(here / "task"))}
@@ -53,7 +55,7 @@ def main():
             for hour in range(hours):
                 for _ in range(ROUNDS_OF_HOUR):
                     work(life, folder)
-                found.append(measure(life.editor.process))
+                found.append(measure(life.editor))
                 print(f"hour {hour + 1}: " + ", ".join(f"{n} {what}" for what, n in found[-1].items()),
                       flush=True)
         finally:

@@ -1,13 +1,15 @@
 // The program as it is, watched: each line on standard input is answered by one line that tells
 // where its windows stand and whether the desk is in order. The line "restore" first brings
 // minimized windows back, and the keyboard to the dialog if a click on the screen's ground has
-// taken it from every window, as a panel of the desktop would. File dialogs cannot leave the
+// taken it from every window, as a panel of the desktop would; "settle" gives memory that is free
+// back to the system. File dialogs cannot leave the
 // current folder, and change nothing in it but what is saved.
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <algorithm>
 #include <iostream>
+#include <malloc.h>
 #include <string>
 #include <thread>
 
@@ -125,10 +127,11 @@ std::string look() {
 void answerLooks() {
     for (std::string asked; std::getline(std::cin, asked);) {
         std::string line;
-        const bool restores = asked == "restore";
-        const auto answer = [&line, restores] {
-            if (restores) {
+        const auto answer = [&line, &asked] {
+            if (asked == "restore") {
                 restoreWindows();
+            } else if (asked == "settle") {
+                malloc_trim(0);
             }
             line = look();
         };
