@@ -60,9 +60,9 @@ void openListMenu(QWidget& parent, const ListBox& list, const QRect& field, cons
         }
     }
     const QPoint corner = parent.mapToGlobal(field.topLeft());
-    menu->popup({corner.x(), static_cast<int>(droppedFrom(corner.y(), field.height(),
-                                                          menu->sizeHint().height(), free.top(),
-                                                          free.height()))});
+    menu->popup({corner.x(),
+                 static_cast<int>(droppedFrom(corner.y(), field.height(), menu->sizeHint().height(),
+                                              free.top(), free.height()))});
 }
 
 }  // namespace ombrelia
