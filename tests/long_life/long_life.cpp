@@ -189,7 +189,7 @@ int liveFor(int hours) {
     }
     int lived = 0;
     const auto next = [&] {
-        const Hour hour = workAnHour(session);
+        Hour hour = workAnHour(session);
         print(++lived, hour);
         return hour;
     };
