@@ -12,7 +12,8 @@ import worked_editor as places
 import x_monkey
 
 ROUNDS_OF_HOUR = 40  # of thirteen deeds each: one in seven seconds
-MOST_GROWTH = 1024  # KiB from the second hour to the last
+DIALOGS_OF_ROUND = 2  # for files; the toolkit keeps the names of what it drew in each
+MOST_OF_DIALOG = 16  # KiB
 
 
 def work(life, folder):
@@ -62,7 +63,8 @@ def main():
             life.editor.end()
     settled, last = found[min(1, hours - 1)], found[-1]
     grown = [what for what in ("files", "threads") if last[what] > settled[what]]
-    if last["KiB"] > settled["KiB"] + MOST_GROWTH:
+    dialogs = max(0, hours - 2) * ROUNDS_OF_HOUR * DIALOGS_OF_ROUND
+    if last["KiB"] > settled["KiB"] + MOST_OF_DIALOG * dialogs:
         grown.append("memory")
     if grown:
         print("grown: " + ", ".join(grown))
