@@ -90,6 +90,9 @@ void Replay::takeScale(double scale) {
 }
 
 void Replay::begin() {
+    if (session_ != nullptr) {
+        session_->takeWaitingLines();  // which would press and move within what follows
+    }
     input_.moveTo(kNowhere);
     place_ = kNowhere;
     for (const MouseButton button : {MouseButton::Left, MouseButton::Middle, MouseButton::Right}) {
