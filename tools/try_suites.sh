@@ -39,7 +39,7 @@ trap 'rm -rf "$scratch"' EXIT
 chmod 755 "$scratch"
 git bundle create --quiet "$scratch/tree.bundle" HEAD
 cat >"$scratch/try.sh" <<'INSIDE'
-cd /root
+cd /srv
 git clone --quiet tree.bundle tree && cd tree || exit
 . tools/setup.sh
 tell() {
@@ -60,7 +60,7 @@ tell g++ "$(g++ -dumpfullversion)"
 tell Qt "$(dpkg-query -W -f '${Version}' qt6-base-dev | sed 's/[+-].*//')"
 INSIDE
 
-hooks=("--customize-hook=copy-in '$scratch/tree.bundle' '$scratch/try.sh' /root")
+hooks=("--customize-hook=copy-in '$scratch/tree.bundle' '$scratch/try.sh' /srv")
 mkdir -p build-suites
 failed=no
 table=()
@@ -78,7 +78,7 @@ for suite in "$@"; do
     "${alone[@]}" mmdebstrap --variant=apt --format=null --include=git,ca-certificates \
         --aptopt='Acquire::Check-Valid-Until "false"' "${hooks[@]}" "${here[@]}" \
         --customize-hook='chroot "$1" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root \
-            LANG=C.UTF-8 CCACHE_DIR=/cache bash /root/try.sh </dev/null' \
+            LANG=C.UTF-8 CCACHE_DIR=/cache bash /srv/try.sh </dev/null' \
         "${after[@]}" "$suite" - "deb $mirror $suite main" >"build-suites/$suite.log" 2>&1 </dev/null || :
     told() {
         sed -n "s|^TOLD $1 ||p" "build-suites/$suite.log"
