@@ -7,7 +7,6 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPalette>
-#include <QPixmapCache>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
@@ -134,8 +133,6 @@ int pixels(double units, double scale) {
 }
 
 void dressApplication(double scale) {
-    // Of the last dialog: each has palettes of its own, by which the toolkit names what it keeps.
-    QPixmapCache::clear();
     const int letters = pixels(kLetterUnits, scale);
     if (QApplication::font().pixelSize() == letters) {
         return;

@@ -43,6 +43,31 @@ constexpr MetricRow kMetrics[] = {
 
 constexpr double kArrowUnits = 18;  // the place of a list's arrow
 
+// The toolkit keeps what it drew under a name that has the number of the palette or icon in it, and
+// frees no name. Every dialog has palettes of its own, so while something is drawn its palette is
+// the first one that was seen with the same colours.
+class DrawnPalette {
+  public:
+    explicit DrawnPalette(const QStyleOption* option)
+        : palette_(const_cast<QStyleOption*>(option)->palette), own_(palette_) {
+        static QList<QPalette> seen;
+        const auto same = std::find(seen.cbegin(), seen.cend(), own_);
+        if (same == seen.cend()) {
+            seen.append(own_);
+        } else {
+            palette_ = *same;
+            palette_.setCurrentColorGroup(own_.currentColorGroup());
+        }
+    }
+    ~DrawnPalette() { palette_ = own_; }
+    DrawnPalette(const DrawnPalette&) = delete;
+    DrawnPalette& operator=(const DrawnPalette&) = delete;
+
+  private:
+    QPalette& palette_;
+    QPalette own_;
+};
+
 }  // namespace
 
 ScaledStyle::ScaledStyle(double scale) : QProxyStyle(QStringLiteral("Fusion")), scale_(scale) {}
@@ -70,6 +95,7 @@ QRect ScaledStyle::subControlRect(ComplexControl control, const QStyleOptionComp
 
 void ScaledStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                      QPainter* painter, const QWidget* widget) const {
+    const DrawnPalette palette(option);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control != CC_ComboBox) {
         return;
@@ -84,6 +110,28 @@ void ScaledStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         QPolygonF({center + QPointF(-half, -half / 2), center + QPointF(half, -half / 2),
                    center + QPointF(0, half / 2)}));
     painter->restore();
+}
+
+void ScaledStyle::drawControl(ControlElement control, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+    const DrawnPalette palette(option);
+    QProxyStyle::drawControl(control, option, painter, widget);
+}
+
+void ScaledStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+    const DrawnPalette palette(option);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+// One of each for all dialogs, for the sake of its number (see DrawnPalette).
+QIcon ScaledStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                const QWidget* widget) const {
+    QIcon& icon = icons_[which];
+    if (icon.isNull()) {
+        icon = QProxyStyle::standardIcon(which, option, widget);
+    }
+    return icon;
 }
 
 int ScaledStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -12,8 +12,8 @@ import worked_editor as places
 import x_monkey
 
 ROUNDS_OF_HOUR = 40  # of thirteen deeds each: one in seven seconds
-DIALOGS_OF_ROUND = 2  # for files; the toolkit keeps the names of what it drew in each
-MOST_OF_DIALOG = 16  # KiB
+DIALOGS_OF_ROUND = 2  # for files, of which the toolkit keeps a little
+MOST_OF_DIALOG = 2  # KiB
 
 
 def work(life, folder):
