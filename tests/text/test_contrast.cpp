@@ -76,7 +76,8 @@ class Contrast : public testing::Test {
         QImage image(static_cast<int>(std::lround(window.Width * scale)),
                      static_cast<int>(std::lround(window.Height * scale)), QImage::Format_RGB32);
         QPainter painter(&image);
-        paintWindow(painter, window, image.rect(), {skin, scale});
+        ToolkitBrush brush(painter, skin);
+        paintWindow(brush, window, pixelRect(image.rect()), scale);
         return image;
     }
 
@@ -104,10 +105,10 @@ class Contrast : public testing::Test {
             const QImage shown = paint(window, scale);
             const QImage ground = paintGround(window, scale);
             for (const Control* part : window.Controls) {
-                const QRect place = visibleDeviceRect(*part, scale);
+                const QRect place = toolkitRect(visibleDeviceRect(*part, scale));
                 if (part->Kind != ControlKind::Label || part->Caption.empty() ||
                     (group != nullptr && part->Parent != group) ||
-                    place != deviceRect(*part, scale)) {
+                    place != toolkitRect(deviceRect(*part, scale))) {
                     continue;
                 }
                 double best = 1;
@@ -235,7 +236,7 @@ TEST_F(Contrast, what_is_locked_is_paler_and_the_rest_is_not) {
     const QImage locked = paint(Form1, 2);
     for (const ButtonRow& row : button::kRows) {
         if (row.place.frame == &Form1Window::ToolFrame) {
-            const QRect place = deviceRect(Form1.NTool(row.number), 2);
+            const QRect place = toolkitRect(deviceRect(Form1.NTool(row.number), 2));
             const double before = spread(free, place);
             const double after = spread(locked, place);
             if (row.isLocked) {
@@ -248,11 +249,12 @@ TEST_F(Contrast, what_is_locked_is_paler_and_the_rest_is_not) {
     QImage inParts = free;
     QPainter painter(&inParts);
     for (int top = 0; top < inParts.height(); top += 60) {
-        paintWindow(painter, Form1, {0, top, inParts.width(), 60}, {skin, 2});
+        ToolkitBrush brush(painter, skin);
+        paintWindow(brush, Form1, {0, top, inParts.width(), top + 60}, 2);
     }
     painter.end();
     EXPECT_EQ(inParts, locked);
-    const QRect map = deviceRect(Form1.MapView, 2);
+    const QRect map = toolkitRect(deviceRect(Form1.MapView, 2));
     EXPECT_EQ(locked.copy(map), free.copy(map));
 }
 
@@ -263,7 +265,7 @@ TEST_F(Contrast, the_tools_to_come_are_paler_than_the_others) {
     for (const ButtonRow& row : button::kRows) {
         if (row.place.frame == &Form1Window::ToolFrame && row.number != button::kColorPicker) {
             const Image& icon = Form1.NTool(row.number + kOverlayOffset);
-            const double strength = spread(shown, deviceRect(icon, 2));
+            const double strength = spread(shown, toolkitRect(deviceRect(icon, 2)));
             const bool isToCome = row.number >= button::kWavy && row.number <= button::kVolcano;
             if (isToCome) {
                 strongestToCome = std::max(strongestToCome, strength);
@@ -280,7 +282,7 @@ TEST_F(Contrast, the_marks_of_a_slider_show_below_its_groove) {
     const QImage with = paint(Form1, 2);
     track.Scale.count = 0;
     const QImage without = paint(Form1, 2);
-    const QRect place = deviceRect(track, 2);
+    const QRect place = toolkitRect(deviceRect(track, 2));
     const int row = place.bottom();
     int runs = 0;
     bool wasMark = false;

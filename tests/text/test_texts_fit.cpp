@@ -28,7 +28,8 @@ constexpr double kScales[] = {1, 1.25, 1.5, 1.75, 2, 2.5, 3, 4};
 
 void expectToFit(const Label& label, const std::string& what) {
     for (const double scale : kScales) {
-        const QSize taken = textSizeDevice(label, scale);
+        const auto width = static_cast<int>(std::lround(label.Width * scale));
+        const QSize taken = textSizeDevice(textOf(label), width, scale);
         EXPECT_LE(taken.height(), std::lround(label.Height * scale)) << what << " at " << scale;
         EXPECT_LE(taken.width(), std::lround(label.Width * scale)) << what << " at " << scale;
     }

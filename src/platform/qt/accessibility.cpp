@@ -8,8 +8,8 @@
 #include "platform/dispatch.h"
 #include "platform/pointer.h"
 #include "platform/qt/qt_desktop.h"
-#include "platform/qt/window_painter.h"
 #include "platform/qt/window_view.h"
+#include "platform/window_layout.h"
 
 namespace ombrelia {
 
@@ -106,9 +106,9 @@ class ControlAccess : public QAccessibleInterface,
         if (!isValid()) {
             return {};
         }
-        const QRect device = visibleDeviceRect(control_, view_->scale());
+        const PixelRect device = visibleDeviceRect(control_, view_->scale());
         const double ratio = view_->devicePixelRatioF();
-        const QRectF logical(device.x() / ratio, device.y() / ratio, device.width() / ratio,
+        const QRectF logical(device.left / ratio, device.top / ratio, device.width() / ratio,
                              device.height() / ratio);
         return logical.toAlignedRect().translated(view_->mapToGlobal(QPoint(0, 0)));
     }

@@ -10,11 +10,8 @@ namespace ombrelia {
 
 namespace {
 
-// Distance of the lines of a wrapped text, in letter sizes.
-constexpr double kLinePitch = 1.32;
-
-Qt::Alignment alignmentOf(const Label& label) {
-    switch (label.Align) {
+Qt::Alignment alignmentOf(TextAlign align) {
+    switch (align) {
         case TextAlign::Center:
             return Qt::AlignHCenter;
         case TextAlign::Right:
@@ -24,18 +21,19 @@ Qt::Alignment alignmentOf(const Label& label) {
     }
 }
 
-QFont fontOf(const Label& label, double scale) {
-    return fontFor(label.FontSize * scale, label.Bold, label.Underline);
+QFont fontOf(const TextLook& look, double scale) {
+    return fontFor(look.size * scale, look.isBold, look.isUnderlined);
 }
 
 // A text on several lines, with more air between them than the letters ask for.
 class Paragraphs {
   public:
-    Paragraphs(const Label& label, int width, double scale)
-        : layout_(shownText(label.Caption).replace(QLatin1Char('\n'), QChar(QChar::LineSeparator)),
-                  fontOf(label, scale)),
-          pitch_(std::round(label.FontSize * kLinePitch * scale)) {
-        QTextOption option(alignmentOf(label));
+    Paragraphs(const TextLook& look, int width, double scale)
+        : layout_(QString::fromStdString(look.text).replace(QLatin1Char('\n'),
+                                                            QChar(QChar::LineSeparator)),
+                  fontOf(look, scale)),
+          pitch_(std::round(look.size * kLinePitch * scale)) {
+        QTextOption option(alignmentOf(look.align));
         option.setWrapMode(QTextOption::WordWrap);
         layout_.setTextOption(option);
         layout_.beginLayout();
@@ -75,27 +73,22 @@ QFont fontFor(double sizeDevice, bool isBold, bool isUnderlined) {
     return font;
 }
 
-QString shownText(const std::string& caption) {
-    return QString::fromStdString(caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
-}
-
-void drawLabelText(QPainter& painter, const Label& label, const QRect& place, double scale) {
-    if (label.WordWrap) {
-        Paragraphs(label, place.width(), scale).draw(painter, place.topLeft());
+void drawText(QPainter& painter, const TextLook& look, const QRect& place, double scale) {
+    if (look.isWrapped) {
+        Paragraphs(look, place.width(), scale).draw(painter, place.topLeft());
         return;
     }
-    painter.setFont(fontOf(label, scale));
-    painter.drawText(place, static_cast<int>(Qt::AlignVCenter | alignmentOf(label)),
-                     shownText(label.Caption));
+    painter.setFont(fontOf(look, scale));
+    painter.drawText(place, static_cast<int>(Qt::AlignVCenter | alignmentOf(look.align)),
+                     QString::fromStdString(look.text));
 }
 
-QSize textSizeDevice(const Label& label, double scale) {
-    const int width = static_cast<int>(std::lround(label.Width * scale));
-    if (label.WordWrap) {
-        return Paragraphs(label, width, scale).size();
+QSize textSizeDevice(const TextLook& look, int width, double scale) {
+    if (look.isWrapped) {
+        return Paragraphs(look, width, scale).size();
     }
-    const QFontMetrics metrics(fontOf(label, scale));
-    return metrics.boundingRect(QRect(0, 0, width, 0), 0, shownText(label.Caption)).size();
+    const QFontMetrics metrics(fontOf(look, scale));
+    return metrics.boundingRect(QRect(0, 0, width, 0), 0, QString::fromStdString(look.text)).size();
 }
 
 }  // namespace ombrelia

@@ -1,29 +1,32 @@
-// Draws a window's record onto the screen at a scale.
+// Paints windows with the toolkit.
 #pragma once
 
 #include <QPainter>
 #include <QRect>
 
-#include "platform/control.h"
 #include "platform/qt/skin.h"
+#include "platform/window_picture.h"
 
 namespace ombrelia {
 
-// What a painting is made with. scale: device pixels to a unit.
-struct PaintTools {
-    Skin& skin;
-    double scale;
+QRect toolkitRect(const PixelRect& rect);
+PixelRect pixelRect(const QRect& rect);
+
+// Paints with a painter whose coordinates are device pixels.
+class ToolkitBrush : public PictureBrush {
+  public:
+    ToolkitBrush(QPainter& painter, Skin& skin) : painter_(painter), skin_(skin) {}
+    void begin(const PixelRect& seen, double opacity) override;
+    void fill(const PixelRect& place, Color color) override;
+    void drawFace(PictureFace face, const PixelRect& place) override;
+    void drawSurface(const Surface& surface, const PixelRect& place) override;
+    void drawText(const TextLook& look, const PixelRect& place, double scale) override;
+    void drawLine(PixelPoint from, PixelPoint to, int width, Color color) override;
+    void drawTriangle(const Point (&corners)[3], Color color) override;
+
+  private:
+    QPainter& painter_;
+    Skin& skin_;
 };
-
-// Place of a control in device pixels of its window, uncut.
-QRect deviceRect(const Control& control, double scale);
-
-// The same, cut to everything that contains it; empty when it is hidden.
-QRect visibleDeviceRect(const Control& control, double scale);
-
-// Paints everything of the window that touches the dirty rectangle (device pixels) with a painter
-// whose coordinates are device pixels.
-void paintWindow(QPainter& painter, Window& window, const QRect& dirtyDevice,
-                 const PaintTools& tools);
 
 }  // namespace ombrelia

@@ -33,7 +33,7 @@ void WindowView::fitScreen() {
         scale_ = scale;
         takeSize();
         tellPlace();
-        shown_.clear();
+        look_.forget();
         sync();
         desktop_.rescaleDocked(window_);
     }

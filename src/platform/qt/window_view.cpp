@@ -69,31 +69,9 @@ WindowView::WindowView(Window& window, QtDesktop& desktop)
     }
 }
 
-WindowView::Shown WindowView::lookOf(const Control& control) const {
-    Shown look;
-    look.rect = visibleDeviceRect(control, scale_);
-    const bool isLine = control.Kind == ControlKind::Line;
-    look.corner = deviceRect(isLine ? *control.Parent : control, scale_).topLeft();
-    look.face = control.Face;
-    look.caption = control.Caption;
-    look.isEnabled = ombrelia::isEnabled(control);
-    if (control.Kind == ControlKind::Label) {
-        look.style = static_cast<const Label&>(control).ForeColor;
-    } else if (control.Kind == ControlKind::PictureBox) {
-        const auto& box = static_cast<const PictureBox&>(control);
-        look.revision = box.Canvas.revision();
-        look.style = box.BackColor;
-    } else if (control.Kind == ControlKind::Line) {
-        const auto& line = static_cast<const Line&>(control);
-        look.numbers = {line.X1, line.Y1, line.X2, line.Y2};
-        look.style = line.BorderColor + (static_cast<std::uint64_t>(line.BorderWidth) << 32U);
-    }
-    return look;
-}
-
-QRect WindowView::logicalRect(const QRect& device) const {
+QRect WindowView::logicalRect(const PixelRect& device) const {
     const double ratio = devicePixelRatioF();
-    return QRectF(device.x() / ratio, device.y() / ratio + menuHeight(), device.width() / ratio,
+    return QRectF(device.left / ratio, device.top / ratio + menuHeight(), device.width() / ratio,
                   device.height() / ratio)
         .toAlignedRect();
 }
@@ -103,23 +81,14 @@ bool WindowView::sync() {
         setWindowTitle(title);
     }
     bool isDifferent = window_.DockedTo != nullptr && followRecord();
-    if (std::exchange(shownFace_, window_.Face) != window_.Face) {
-        update();
-        isDifferent = true;
-    }
-    if (shown_.size() != window_.Controls.size()) {
-        shown_.assign(window_.Controls.size(), {});
-        update();
-    }
-    for (std::size_t i = 0; i < shown_.size(); ++i) {
-        Shown look = lookOf(*window_.Controls[i]);
-        if (look != shown_[i]) {
-            update(logicalRect(look.rect | shown_[i].rect));
-            shown_[i] = std::move(look);
-            announceChange(*this, *window_.Controls[i]);
-            isDifferent = true;
+    isDifferent = look_.update(window_, scale_, [this](const PixelRect& place, Control* part) {
+        if (part == nullptr) {
+            update();
+            return;
         }
-    }
+        update(logicalRect(place));
+        announceChange(*this, *part);
+    }) || isDifferent;
     if (frame_ != nullptr) {
         frame_->sync(scale_ / devicePixelRatioF());
     }
@@ -135,12 +104,12 @@ void WindowView::paintEvent(QPaintEvent* event) {
     }
     painter.translate(0, menuHeight());
     painter.scale(1 / ratio, 1 / ratio);
-    const PaintTools tools{desktop_.skin(), scale_};
+    ToolkitBrush brush(painter, desktop_.skin());
     for (const QRect& part : event->region()) {
         const QRect device = QRectF(part.x() * ratio, (part.y() - menuHeight()) * ratio,
                                     part.width() * ratio, part.height() * ratio)
                                  .toAlignedRect();
-        paintWindow(painter, window_, device, tools);
+        paintWindow(brush, window_, pixelRect(device), scale_);
     }
     desktop_.painted(window_);
 }
@@ -179,7 +148,7 @@ void WindowView::openList(ListBox& list) {
 }
 
 void WindowView::showDragged(Control& source) {
-    const QRect place = deviceRect(source, scale_);
+    const PixelRect place = deviceRect(source, scale_);
     QPixmap icon =
         QPixmap::fromImage(desktop_.skin().face(source.Face, place.width(), place.height()));
     icon.setDevicePixelRatio(devicePixelRatioF());

@@ -7,13 +7,13 @@
 #include <QWidget>
 #include <map>
 #include <memory>
-#include <vector>
 
 #include "platform/control.h"
 #include "platform/pointer.h"
 #include "platform/qt/frame_parts.h"
 #include "platform/qt/skin.h"
 #include "platform/timer_rest.h"
+#include "platform/window_look.h"
 
 namespace ombrelia {
 
@@ -87,26 +87,12 @@ class WindowView : public QWidget {
         TimerRest rest;
     };
 
-    // What a part looked like when it was last painted.
-    struct Shown {
-        QRect rect;
-        QPoint corner;  // uncut, of a line its container's: what is cut off moves unseen
-        PictureFace face;
-        std::string caption;
-        std::array<double, 4> numbers{};  // ends of a line
-        std::uint64_t revision = 0;
-        std::uint64_t style = 0;
-        bool isEnabled = true;
-        bool operator==(const Shown&) const = default;
-    };
-
-    Shown lookOf(const Control& control) const;
     void handOver(PointerKind kind, const QPointF& logical, Qt::MouseButton button = Qt::NoButton,
                   double notches = 0);
     void press(PointerKind kind, QMouseEvent* event);
     void tick(Timer& timer, SystemTimer& system);
     bool moveWindow(QMouseEvent* event);
-    QRect logicalRect(const QRect& device) const;
+    QRect logicalRect(const PixelRect& device) const;
     // Tells the record where the window stands.
     void tellPlace();
     void takeSize();
@@ -115,9 +101,8 @@ class WindowView : public QWidget {
     Window& window_;
     QtDesktop& desktop_;
     double scale_;
-    double ratio_ = 0;       // device pixels to a logical one, at which the window has its size
-    PictureFace shownFace_;  // of the window itself
-    std::vector<Shown> shown_;
+    double ratio_ = 0;  // device pixels to a logical one, at which the window has its size
+    WindowLook look_;
     std::map<Timer*, SystemTimer> timers_;
     std::unique_ptr<FrameParts> frame_;  // of a window that is sized by hand
 
