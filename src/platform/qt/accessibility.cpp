@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "platform/access.h"
 #include "platform/dispatch.h"
 #include "platform/pointer.h"
 #include "platform/qt/qt_desktop.h"
@@ -15,55 +16,26 @@ namespace ombrelia {
 
 namespace {
 
-constexpr int kFaceOn = 2;  // of a button: pressed, or on
-
 QAccessible::Role roleOf(const Control& control) {
-    if (control.LiesOn != nullptr) {
-        return QAccessible::NoRole;  // the face says it
-    }
-    switch (control.Role) {
-        case AccessRole::Button:
+    switch (accessKindOf(control)) {
+        case AccessKind::Text:
+            return QAccessible::StaticText;
+        case AccessKind::List:
+            return QAccessible::ComboBox;
+        case AccessKind::Picture:
+            return QAccessible::Graphic;
+        case AccessKind::Button:
             return QAccessible::Button;
-        case AccessRole::CheckBox:
+        case AccessKind::CheckBox:
             return QAccessible::CheckBox;
-        case AccessRole::RadioButton:
+        case AccessKind::RadioButton:
             return QAccessible::RadioButton;
-        case AccessRole::Slider:
+        case AccessKind::Slider:
             return QAccessible::Slider;
-        case AccessRole::Default:
+        case AccessKind::None:
             break;
     }
-    const bool hasName = !control.AccessibleName.empty();
-    switch (control.Kind) {
-        case ControlKind::Label:
-            return control.Caption.empty() ? QAccessible::NoRole : QAccessible::StaticText;
-        case ControlKind::ListBox:
-            return QAccessible::ComboBox;
-        case ControlKind::PictureBox:
-            return hasName ? QAccessible::Graphic : QAccessible::NoRole;
-        case ControlKind::Image:
-            return hasName ? QAccessible::Button : QAccessible::NoRole;
-        default:
-            return QAccessible::NoRole;
-    }
-}
-
-// "&&" stands for one "&".
-QString plainText(const std::string& caption) {
-    return QString::fromStdString(caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
-}
-
-bool canBePressed(const Control& control) {
-    switch (roleOf(control)) {
-        case QAccessible::Button:
-        case QAccessible::CheckBox:
-        case QAccessible::RadioButton:
-            return true;
-        case QAccessible::StaticText:
-            return control.handlerOf(Event::Click) != nullptr;
-        default:
-            return false;
-    }
+    return QAccessible::NoRole;
 }
 
 class ControlAccess : public QAccessibleInterface,
@@ -87,18 +59,11 @@ class ControlAccess : public QAccessibleInterface,
     QAccessible::Role role() const override { return roleOf(control_); }
 
     QString text(QAccessible::Text kind) const override {
-        const QString caption = plainText(control_.Caption);
-        const QString name = plainText(control_.AccessibleName);
         if (kind == QAccessible::Value) {
-            return control_.Kind == ControlKind::ListBox ? caption : valueText();
+            return QString::fromStdString(accessValueOf(control_));
         }
-        if (kind != QAccessible::Name) {
-            return {};
-        }
-        if (control_.Kind == ControlKind::Label) {
-            return name.isEmpty() ? caption : name + QLatin1Char(' ') + caption;
-        }
-        return name.isEmpty() ? caption : name;
+        return kind == QAccessible::Name ? QString::fromStdString(accessNameOf(control_))
+                                         : QString();
     }
     void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
 
@@ -115,7 +80,7 @@ class ControlAccess : public QAccessibleInterface,
 
     QAccessible::State state() const override {
         QAccessible::State state;
-        const bool isOn = control_.Face.face == kFaceOn;
+        const bool isOn = ombrelia::isOn(control_);
         const QAccessible::Role role = roleOf(control_);
         state.disabled = !isEnabled(control_);
         state.invisible = !isShown(control_) || !view_->isVisible();
@@ -161,17 +126,16 @@ class ControlAccess : public QAccessibleInterface,
         QMetaObject::invokeMethod(view_, press, Qt::QueuedConnection);
     }
 
-    QVariant currentValue() const override { return ask().Value; }
-    QVariant minimumValue() const override { return ask().Minimum; }
-    QVariant maximumValue() const override { return ask().Maximum; }
+    QVariant currentValue() const override { return rangeOf(control_).Value; }
+    QVariant minimumValue() const override { return rangeOf(control_).Minimum; }
+    QVariant maximumValue() const override { return rangeOf(control_).Maximum; }
     QVariant minimumStepSize() const override { return 1; }
     void setCurrentValue(const QVariant& value) override {
-        if (!isValid() || !isEnabled(control_)) {
-            return;
+        if (isValid()) {
+            view_->desktop().input([&control = control_, wished = value.toDouble()] {
+                setValueWithoutPointer(control, wished);
+            });
         }
-        EventArgs args;
-        args.Value = value.toDouble();
-        view_->desktop().input([this, args] { deliver(control_, Event::SetValue, args); });
     }
 
   private:
@@ -183,16 +147,6 @@ class ControlAccess : public QAccessibleInterface,
             QAccessibleStateChangeEvent event(this, changed);
             QAccessible::updateAccessibility(&event);
         }
-    }
-
-    EventArgs ask() const {
-        EventArgs args;
-        raise(control_, Event::AskValue, args);
-        return args;
-    }
-
-    QString valueText() const {
-        return roleOf(control_) == QAccessible::Slider ? QString::number(ask().Value) : QString();
     }
 
     QPointer<WindowView> view_;
