@@ -5,7 +5,7 @@
 #include "core/windows/form1.h"
 #include "core/windows/small_windows.h"
 #include "desk/startup.h"
-#include "platform/qt/qt_program.h"
+#include "platform/program.h"
 
 int main(int argc, char** argv) {
     ombrelia::bindEvents();

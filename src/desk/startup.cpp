@@ -301,6 +301,17 @@ void repairAfterFailure() {
     showProgress();
 }
 
+bool hasDrawnMap() {
+    for (int y = 0; Form1.Loaded && y < MapSize; ++y) {
+        for (int x = 0; x < MapSize; ++x) {
+            if (HeightMap(x, y) != BaseHeight) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 void Title_MouseDown(EventArgs& args) {
     if (args.Button == MouseButton::Left) {
         services().desktop->beginWindowMove(*args.Source->Owner);

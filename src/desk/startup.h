@@ -17,6 +17,9 @@ void ExitEditor();
 // What brings the desk back in order after a run-time failure.
 void repairAfterFailure();
 
+// Whether the editor holds a map that is no longer the flat one it began with.
+bool hasDrawnMap();
+
 // Handlers of the windows around the editor and of Form1's own events.
 void frmSplash_Load(EventArgs& args);
 void frmSplash_Timer(EventArgs& args);

@@ -34,6 +34,9 @@ class IniStore : public SettingsStore {
     void removeKey(const std::string& section, const std::string& key) override;
     void removeSection(const std::string& section) override;
 
+    // Whether something was changed since the last commit.
+    bool hasChanges() const { return !changes_.empty(); }
+
     // Writes what was changed since the last time into the file, beside what another editor may
     // have written there. A malformed file is copied aside first, to its name and ".damaged". Empty
     // when all went well, otherwise a sentence for the user; the file is then as it was. Nothing is

@@ -18,7 +18,7 @@
 #include "core/windows/small_windows.h"
 #include "desk/startup.h"
 #include "platform/dispatch.h"
-#include "platform/qt/qt_program.h"
+#include "platform/program.h"
 #include "platform/qt/window_view.h"
 #include "register/reset_process.h"
 

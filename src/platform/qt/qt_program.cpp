@@ -1,4 +1,4 @@
-#include "platform/qt/qt_program.h"
+#include "platform/program.h"
 
 #include <QApplication>
 #include <QSettings>

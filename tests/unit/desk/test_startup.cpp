@@ -97,6 +97,15 @@ TEST_F(Startup, a_failure_before_the_editor_is_open_repairs_nothing) {
     EXPECT_EQ(StopFlag, 0);
 }
 
+TEST_F(Startup, a_map_is_worth_a_question_once_a_point_of_it_has_changed) {
+    runHandler(startEditor);
+    EXPECT_FALSE(hasDrawnMap());
+    startWith(80);
+    EXPECT_FALSE(hasDrawnMap());
+    HeightMap(MapSize - 1, MapSize - 1) = static_cast<std::int16_t>(BaseHeight + 1);
+    EXPECT_TRUE(hasDrawnMap());
+}
+
 TEST_F(Startup, a_choice_opens_the_editor) {
     startWith(80);
     EXPECT_EQ(platform.Calls, (Log{"show frmSplash", "unload frmSplash", "show SizeSelect",

@@ -1,4 +1,4 @@
-// The program on the real platform: application object, services, event loop.
+// The program on a screen: the services behind it and the loop that hands events over.
 #pragma once
 
 #include <functional>
@@ -16,10 +16,11 @@ struct ProgramParts {
     int yieldMilliseconds = 0;  // how long each yield takes at least; above 0 to watch a run slowly
     std::function<void()> onFirstPaint = {};       // once the first window has been painted
     std::string pictureReader = "/proc/self/exe";  // a program that begins with runProgram
+    std::function<bool()> hasWork = {};            // whether a user would miss what is there
 };
 
-// Reads a picture for another process, if that started this one. Else runs the event loop until the
-// process is to end; the exit status of the process.
+// Hands events over until the process is to end; its exit status. May do another thing instead, if
+// the program was started for that by itself.
 int runProgram(int argc, char** argv, const ProgramParts& parts);
 
 }  // namespace ombrelia
