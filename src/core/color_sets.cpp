@@ -1,12 +1,12 @@
 #include "core/color_sets.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <span>
 
 #include "core/color_sets_table.h"
 #include "core/objects.h"
+#include "platform/number_text.h"
 #include "platform/numeric.h"
 #include "platform/services.h"
 
@@ -97,15 +97,12 @@ double storedNumber(const std::string& text) {
     if (first == std::string::npos) {
         return 0;
     }
-    const auto last = text.find_last_not_of(" \t");
-    const char* begin = text.data() + first;
-    const char* end = text.data() + last + 1;
-    if (*begin == '+' && begin + 1 != end && begin[1] != '-') {
-        ++begin;
+    std::string digits = text.substr(first, text.find_last_not_of(" \t") + 1 - first);
+    if (digits.starts_with('+') && !digits.starts_with("+-")) {
+        digits.erase(0, 1);
     }
-    double value = 0;
-    const auto [stop, error] = std::from_chars(begin, end, value);
-    return error == std::errc{} && stop == end && std::isfinite(value) ? value : 0;
+    const double value = numberOf<double>(digits).value_or(0);
+    return std::isfinite(value) ? value : 0;
 }
 
 std::int16_t storedInt16(double value) {

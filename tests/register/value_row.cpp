@@ -1,9 +1,8 @@
 #include "register/value_row.h"
 
-#include <charconv>
-#include <system_error>
+#include <optional>
 
-#include "platform/numeric.h"
+#include "platform/number_text.h"
 
 namespace ombrelia {
 
@@ -30,9 +29,7 @@ auto withElement(ScalarKind kind, void* element, Visit visit) {
 
 template <typename T>
 std::string numberText(const T& number) {
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
-    return {buffer.data(), end};
+    return shortestText(number);
 }
 
 std::string numberText(const std::string& text) {
@@ -41,13 +38,9 @@ std::string numberText(const std::string& text) {
 
 template <typename T>
 bool parseInto(T& number, const std::string& text) {
-    T parsed{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), parsed);
-    if (error != std::errc{} || end != text.data() + text.size()) {
-        return false;
-    }
-    number = parsed;
-    return true;
+    const std::optional<T> parsed = numberOf<T>(text);
+    number = parsed.value_or(number);
+    return parsed.has_value();
 }
 
 bool parseInto(std::string& value, const std::string& text) {

@@ -1,9 +1,6 @@
 // The window's life: load, size, exposure, tilt, ticks, menus. Keys are in maze_keys.cpp.
 #include "games/maze/maze_events.h"
 
-#include <array>
-#include <charconv>
-
 #include "core/button_numbers.h"
 #include "core/windows/maze_window.h"
 #include "games/maze/maze_generator.h"
@@ -11,6 +8,7 @@
 #include "games/maze/maze_solver.h"
 #include "games/maze/maze_track.h"
 #include "platform/dispatch.h"
+#include "platform/number_text.h"
 #include "platform/services.h"
 #include "platform/window_life.h"
 
@@ -179,11 +177,7 @@ void leaveProgram() {
 
 std::string clockText(float seconds) {
     constexpr int kDigits = 7;
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), seconds,
-                                   std::chars_format::general, kDigits)
-                         .ptr;
-    const std::string digits(buffer.data(), end);
+    const std::string digits = roundedText(seconds, kDigits);
     return seconds < 0 ? digits : " " + digits;
 }
 
