@@ -1,5 +1,6 @@
 // Commands that do what a user, the clock or the window system does.
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <limits>
 
@@ -89,8 +90,8 @@ void fire(Session& /*session*/, const Fields& fields) {
 }
 
 void tick(Session& /*session*/, const Fields& fields) {
-    const long ticks = fields.empty() ? 1 : wholeNumber(fields[0], 0, kManyTicks);
-    for (long i = 0; i < ticks; ++i) {
+    const std::int64_t ticks = fields.empty() ? 1 : wholeNumber(fields[0], 0, kManyTicks);
+    for (std::int64_t i = 0; i < ticks; ++i) {
         fireTimer(Form1.Timer1);
     }
 }
@@ -100,7 +101,8 @@ void switchTicks(Session& session, const Fields& fields) {
 }
 
 void onYield(Session& session, const Fields& fields) {
-    const long yields = wholeNumber(fields[0], 1, std::numeric_limits<std::int32_t>::max());
+    constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+    const auto yields = static_cast<long>(wholeNumber(fields[0], 1, kMost));
     checkCommandWord(fields[1]);
     session.runAtYield(yields, Fields(fields.begin() + 1, fields.end()));
 }
@@ -111,7 +113,8 @@ void choose(Session& /*session*/, const Fields& fields) {
         throw LineError{fields[0] + " is no list box"};
     }
     auto& list = static_cast<ListBox&>(control);
-    const long entry = wholeNumber(fields[1], 0, static_cast<long>(list.List.size()) - 1);
+    const auto entries = static_cast<std::int64_t>(list.List.size());
+    const std::int64_t entry = wholeNumber(fields[1], 0, entries - 1);
     if (!isEnabled(list)) {
         return;
     }
@@ -191,7 +194,7 @@ void start(Session& session, const Fields& fields) {
     if (fields.empty()) {
         return;
     }
-    const long size = wholeNumber(fields[0], button::kSizeMiniature, button::kSizeImport);
+    const std::int64_t size = wholeNumber(fields[0], button::kSizeMiniature, button::kSizeImport);
     clickOn(loadedControlNamed("frmSplash"));
     clickOn(loadedControlNamed("SizeSelect.NTool(" + std::to_string(size) + ")"));
 }

@@ -1,11 +1,12 @@
 #include "fields.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <system_error>
+#include <limits>
+#include <optional>
 
 #include "errors.h"
+#include "platform/number_text.h"
 
 namespace ombrelia::scenario {
 
@@ -45,13 +46,10 @@ std::string plainField(const std::string& line, std::size_t& place) {
     return line.substr(first, place - first);
 }
 
-// Reads the whole text as a number; false if it is none.
+// The number that the text is, with or without a plus sign.
 template <typename T>
-bool readNumber(const std::string& text, T& number) {
-    const std::size_t sign = text.starts_with('+') ? 1 : 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data() + sign, end, number);
-    return error == std::errc{} && stop == end;
+std::optional<T> readNumber(const std::string& text) {
+    return numberOf<T>(text.starts_with('+') ? text.substr(1) : text);
 }
 
 }  // namespace
@@ -70,21 +68,22 @@ Fields splitFields(const std::string& line) {
     return fields;
 }
 
-long wholeNumber(const std::string& text, long low, long high) {
-    long number = 0;
-    if (!readNumber(text, number)) {
+std::int64_t wholeNumber(const std::string& text, std::int64_t low, std::int64_t high) {
+    const std::optional<std::int64_t> number = readNumber<std::int64_t>(text);
+    if (!number) {
         throw LineError{"\"" + text + "\" is no whole number"};
     }
-    if (number < low || number > high) {
+    if (*number < low || *number > high) {
         throw LineError{text + " does not lie in " + std::to_string(low) + " to " +
                         std::to_string(high)};
     }
-    return number;
+    return *number;
 }
 
 double realNumber(const std::string& text) {
-    double number = 0;
-    if (!readNumber(text, number) || !std::isfinite(number)) {
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const double number = readNumber<double>(text).value_or(kNone);
+    if (!std::isfinite(number)) {
         throw LineError{"\"" + text + "\" is no number"};
     }
     return number;

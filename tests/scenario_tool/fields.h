@@ -1,6 +1,7 @@
 // The words of a line and the numbers in them.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,7 @@ using Fields = std::vector<std::string>;
 Fields splitFields(const std::string& line);
 
 // A whole number from low to high; throws LineError for any other text.
-long wholeNumber(const std::string& text, long low, long high);
+std::int64_t wholeNumber(const std::string& text, std::int64_t low, std::int64_t high);
 
 // Any decimal number; throws LineError for any other text.
 double realNumber(const std::string& text);

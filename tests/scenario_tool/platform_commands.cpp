@@ -1,5 +1,6 @@
 // Commands that set up what the platform will answer.
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <limits>
 
@@ -17,7 +18,8 @@ void queueRandom(Session& session, const Fields& fields) {
 }
 
 void seedGenerator(Session& session, const Fields& fields) {
-    const long seed = wholeNumber(fields[0], 0, std::numeric_limits<std::uint32_t>::max());
+    constexpr std::int64_t kMost = std::numeric_limits<std::uint32_t>::max();
+    const std::int64_t seed = wholeNumber(fields[0], 0, kMost);
     session.platform.RandomState = static_cast<std::uint32_t>(seed);
 }
 
