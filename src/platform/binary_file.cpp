@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/failure.h"
+#include "platform/linux_calls.h"
 
 namespace ombrelia {
 
@@ -94,7 +95,7 @@ void BinaryFile::flush() {
 }
 
 void BinaryFile::flushAll() {
-    if (::syncfs(handle_) != 0) {
+    if (!flushFileSystem(handle_)) {
         fail(errno);
     }
 }

@@ -5,8 +5,9 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
+
+#include "platform/linux_calls.h"
 
 namespace ombrelia {
 
@@ -53,11 +54,6 @@ std::pair<std::string, int> makePassing(const std::string& folder) {
     return {"", -1};
 }
 
-// Whether a list tells who may use the file, beside its mode.
-bool hasAccessList(int handle) {
-    return ::fgetxattr(handle, "system.posix_acl_access", nullptr, 0) > 0;
-}
-
 }  // namespace
 
 PassingFile::PassingFile(const std::string& folder, const std::string& path)
@@ -88,7 +84,7 @@ bool PassingFile::takeRightsOf(const BinaryFile& model) {
 
 bool PassingFile::becomeNew(const std::string& path) {
     constexpr int kHere = AT_FDCWD;
-    if (::renameat2(kHere, name_.c_str(), kHere, path.c_str(), RENAME_NOREPLACE) != 0) {
+    if (!renameToNew(name_, path)) {
         if (::linkat(kHere, name_.c_str(), kHere, path.c_str(), 0) != 0) {
             return false;
         }
