@@ -147,7 +147,7 @@ void takePalette(ByteSource& source, const Layout& layout, BitmapHeader& header)
     }
     header.pixelOffset =
         isOffsetStated ? layout.statedOffset : start + entries * layout.entryBytes();
-    std::vector<std::uint8_t> bytes(entries * layout.entryBytes());
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(entries * layout.entryBytes()));
     source.read(start, bytes);
     for (std::size_t i = 0; i < entries; ++i) {
         const std::uint8_t* entry = bytes.data() + i * layout.entryBytes();

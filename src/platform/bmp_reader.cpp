@@ -159,13 +159,13 @@ void forEachRow(ByteSource& source, const BitmapHeader& header, Visit visit) {
     const std::uint64_t rowBytes = header.paddedRowBytes();
     const auto rows = static_cast<std::uint64_t>(header.height);
     const std::uint64_t inChunk = std::clamp<std::uint64_t>(kChunkBytes / rowBytes, 1, rows);
-    std::vector<std::uint8_t> chunk(inChunk * rowBytes);
+    std::vector<std::uint8_t> chunk(static_cast<std::size_t>(inChunk * rowBytes));
     for (std::uint64_t first = 0; first < rows; first += inChunk) {
         const std::uint64_t count = std::min(inChunk, rows - first);
         // The padding of the last row may be missing.
         const bool isLast = first + count == rows;
-        const std::uint64_t bytes =
-            isLast ? (count - 1) * rowBytes + header.bareRowBytes() : count * rowBytes;
+        const auto bytes = static_cast<std::size_t>(
+            isLast ? (count - 1) * rowBytes + header.bareRowBytes() : count * rowBytes);
         source.read(header.pixelOffset + first * rowBytes, std::span(chunk).first(bytes));
         for (std::uint64_t i = 0; i < count; ++i) {
             if (!visit(chunk.data() + i * rowBytes, static_cast<std::int64_t>(first + i))) {

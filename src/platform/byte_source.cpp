@@ -94,7 +94,8 @@ std::span<const std::uint8_t> ByteStream::takeChunk() {
 // Leaves the chunk empty at the end.
 void ByteStream::fetch() {
     constexpr std::uint64_t kChunkBytes = 65536;
-    chunk_.resize(next_ < source_.size() ? std::min(kChunkBytes, source_.size() - next_) : 0);
+    const std::uint64_t left = next_ < source_.size() ? source_.size() - next_ : 0;
+    chunk_.resize(static_cast<std::size_t>(std::min(kChunkBytes, left)));
     place_ = 0;
     source_.read(next_, chunk_);
     next_ += chunk_.size();

@@ -2,9 +2,9 @@
 // even, unless floor is asked for; a 16-bit or 32-bit overflow is a run-time failure, never silent.
 #pragma once
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 
 #include "platform/failure.h"
@@ -20,7 +20,10 @@ inline std::int64_t roundToEven(double value) {
 // with 1.5 * 2^52 has no digits after the point, and its lowest bits are the result.
 inline std::int32_t roundSmallToEven(double value) {
     constexpr double kShift = 6755399441055744.0;
-    return static_cast<std::int32_t>(std::bit_cast<std::int64_t>(value + kShift));
+    const double shifted = value + kShift;
+    std::int64_t bits = 0;  // std::bit_cast is missing in some libraries
+    std::memcpy(&bits, &shifted, sizeof bits);
+    return static_cast<std::int32_t>(bits);
 }
 
 // Largest whole number not above value. The value must fit 64 bits.

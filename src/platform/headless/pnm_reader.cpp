@@ -17,7 +17,8 @@ constexpr unsigned kMostValue = 255;
 
 class MapText {
   public:
-    explicit MapText(ByteSource& source) : path_(source.path()), bytes_(source.size()) {
+    explicit MapText(ByteSource& source)
+        : path_(source.path()), bytes_(static_cast<std::size_t>(source.size())) {
         source.read(0, bytes_);
     }
 
