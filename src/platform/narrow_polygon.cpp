@@ -1,8 +1,7 @@
 #include "platform/narrow_polygon.h"
 
-#include "platform/wide_vectors.h"
-
-#if OMBRELIA_HAS_WIDE
+// Vectors as x86 names them; a compiler for WebAssembly knows the names too.
+#ifdef __SSE2__
 
 #include <emmintrin.h>
 
