@@ -7,6 +7,7 @@ TEST_PACKAGES=(x11-xserver-utils libgtest-dev libbenchmark-dev libmagick++-dev l
     weston xwayland qt6-wayland)
 # Debian 12 has the plug-in that reads drawings in the library's own package.
 grep -qs '^VERSION_ID="12"' /etc/os-release || TEST_PACKAGES+=(qt6-svg-plugins)
+WEB_PACKAGES=(emscripten nodejs cmake ninja-build ccache)
 CHECK_PACKAGES=(git python3 clang-format desktop-file-utils appstream man-db)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
 PRESET=${PRESET:-release}  # what the tests are built with; .ci/run takes "strict"
@@ -63,6 +64,13 @@ folder_of() {
     [ "$1" = release ] && echo build || echo "build-$1"
 }
 
+# configure PRESET [WORD ...]: words for cmake
+configure() {
+    local by=()
+    [ "$1" != web ] || by=(emcmake)
+    "${by[@]}" cmake --preset "$@" >/dev/null
+}
+
 # build PRESET yes|no [TARGET ...]; yes: with the tests
 build() {
     local preset=$1 tests=$2 folder targets=()
@@ -71,12 +79,14 @@ build() {
     step "Building ($preset)"
     # One cache for every folder that it is built in, and for sources behind compiled headers.
     export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
+    # Where the web's compiler finds its modules, if the system's node is another's.
+    [ "$preset" != web ] || export NODE_PATH=${NODE_PATH:-/usr/share/nodejs}
     if [ ! -f "$folder/build.ninja" ]; then
-        cmake --preset "$preset" -DBUILD_TESTING="$([ "$tests" = yes ] && echo ON || echo OFF)" >/dev/null
+        configure "$preset" -DBUILD_TESTING="$([ "$tests" = yes ] && echo ON || echo OFF)"
     elif [ "$tests" = yes ] && ! grep -q '^BUILD_TESTING:BOOL=ON' "$folder/CMakeCache.txt"; then
-        cmake --preset "$preset" -DBUILD_TESTING=ON >/dev/null
+        configure "$preset" -DBUILD_TESTING=ON
     elif [ CMakePresets.json -nt "$folder/build.ninja" ]; then
-        cmake --preset "$preset" >/dev/null
+        configure "$preset"
     fi
     [ $# -eq 0 ] || targets=(--target "$@")
     cmake --build "$folder" "${targets[@]}"
