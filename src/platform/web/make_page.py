@@ -27,7 +27,8 @@ def in_base64(data):
 
 def font(name):
     """Its Latin letters."""
-    options = subset.Options(flavor="woff2", hinting=False, desubroutinize=True)
+    options = subset.Options(flavor="woff2", hinting=False)
+    options.drop_tables += ["FFTM"]  # when the font was made
     letters = ttLib.TTFont(FONT_FOLDER / name)
     chooser = subset.Subsetter(options)
     chooser.populate(unicodes=LETTERS)
@@ -71,7 +72,7 @@ def policy(scripts, style):
         return f"'sha256-{in_base64(hashlib.sha256(text.encode()).digest())}'"
     return "; ".join((
         "default-src 'none'", f"script-src {' '.join(map(allowed, scripts))} 'wasm-unsafe-eval'",
-        f"style-src {allowed(style)}", "img-src data: blob:", "font-src data:", "connect-src 'self'",
+        f"style-src {allowed(style)}", "img-src data: blob:", "font-src data:", "connect-src 'none'",
         "manifest-src 'self'", "worker-src 'self'", "base-uri 'none'", "form-action 'none'"))
 
 
