@@ -27,7 +27,8 @@ void page_set_has_work(int hasWork);
 void page_ended();
 
 // Windows.
-void page_open_window(int window, int hasFrame, const char* title);
+// frame: 0 none, 1 of a fixed size, 2 to be sized by hand.
+void page_open_window(int window, int frame, const char* title);
 void page_close_window(int window);
 void page_set_title(int window, const char* title);
 void page_place_window(int window, int left, int top, int width, int height, double scale);

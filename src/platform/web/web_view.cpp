@@ -37,6 +37,14 @@ bool hasMenus(const Window& window) {
     });
 }
 
+// As page.h has it.
+int frameOf(const Window& window) {
+    if (!window.HasFrame) {
+        return 0;
+    }
+    return window.handlerOf(Event::Resize) == nullptr ? 1 : 2;
+}
+
 // Units of the frame above the inside.
 double frameTop(const Window& window) {
     return window.HasFrame ? kTitleHeight + (hasMenus(window) ? kMenuHeight : 0) : 0;
@@ -47,7 +55,7 @@ double frameTop(const Window& window) {
 WebView::WebView(Window& window, int number, WebDesktop& desktop)
     : window_(window), number_(number), desktop_(desktop), brush_(number) {
     title_ = window.Caption;
-    page_open_window(number, window.HasFrame ? 1 : 0, title_.c_str());
+    page_open_window(number, frameOf(window), title_.c_str());
     takeScale();
     if (window.DockedTo == nullptr) {
         place();

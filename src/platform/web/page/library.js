@@ -46,8 +46,8 @@ mergeInto(LibraryManager.library, {
         return page.end();
     },
 
-    page_open_window: function (window, hasFrame, title) {
-        return page.openWindow(window, hasFrame !== 0, UTF8ToString(title));
+    page_open_window: function (window, frame, title) {
+        return page.openWindow(window, frame, UTF8ToString(title));
     },
     page_close_window: function (window) {
         return page.closeWindow(window);

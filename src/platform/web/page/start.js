@@ -42,8 +42,8 @@ class Page {
         return this.windows.get(number);
     }
 
-    openWindow(number, hasFrame, title) {
-        this.windows.set(number, new PageWindow(this, number, hasFrame, title));
+    openWindow(number, frame, title) {
+        this.windows.set(number, new PageWindow(this, number, frame, title));
     }
 
     closeWindow(number) {

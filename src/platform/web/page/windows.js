@@ -26,10 +26,11 @@ function shownCaption(caption) {
 }
 
 class PageWindow {
-    constructor(page, number, hasFrame, title) {
+    // frame: 0 none, 1 of a fixed size, 2 to be sized by hand.
+    constructor(page, number, frame, title) {
         this.page = page;
         this.number = number;
-        this.root = element('section', hasFrame ? 'window framed' : 'window');
+        this.root = element('section', frame !== 0 ? 'window framed' : 'window');
         this.root.hidden = true;
         this.title = null;
         this.menuBar = null;
@@ -38,8 +39,11 @@ class PageWindow {
         this.parts = new Map();
         this.lastPress = null;
         this.size = {left: 0, top: 0, width: 0, height: 0, scale: 1};
-        if (hasFrame) {
+        if (frame !== 0) {
             this.makeFrame();
+        }
+        if (frame === 2) {
+            this.makeGrip();
         }
         this.client = this.root.appendChild(element('div', 'client'));
         this.canvas = this.client.appendChild(element('canvas'));
@@ -189,6 +193,9 @@ class PageWindow {
             return (x, y) => this.put(kEvent.moveFrame, left + x * this.page.ratio(),
                 top + y * this.page.ratio());
         });
+    }
+
+    makeGrip() {
         const grip = this.root.appendChild(element('div', 'grip'));
         drag(grip, () => {
             const {width, height} = this.size;
