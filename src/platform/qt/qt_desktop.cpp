@@ -174,41 +174,15 @@ WindowView& QtDesktop::viewOf(Window& window) {
     return *view;
 }
 
-// False when the process is to end. What the windows still send as they go is heard by nobody.
-bool QtDesktop::runOrEnd(const std::function<void()>& event) {
-    if (hasEnded_) {
-        return false;
-    }
-    try {
-        event();
-    } catch (const ProcessEnd&) {
-        handled();
-        QCoreApplication::exit(0);
-        return false;
-    }
-    return true;
+void QtDesktop::leave() {
+    QCoreApplication::exit(0);
 }
 
-void QtDesktop::run(const std::function<void()>& event) {
-    if (runOrEnd(event)) {
-        tickAfterLongRun();
-        wakeTimers();
-        sync();
-        handled();
-        settleRegisters();
-    }
+void QtDesktop::settle() {
+    settleRegisters();
 }
 
-void QtDesktop::input(const std::function<void()>& event) {
-    keptInput_.hand([this, event] { run(event); });
-}
-
-// What a run leaves to the tick after it, as the light that turns green, shall not wait for the
-// next frame.
-void QtDesktop::tickAfterLongRun() {
-    if (isHandling() || !std::exchange(hasHandledEvents_, false)) {
-        return;
-    }
+void QtDesktop::tickAtOnce() {
     std::vector<QPointer<WindowView>> views;
     for (const auto& [window, view] : views_) {
         views.emplace_back(view);
@@ -220,27 +194,11 @@ void QtDesktop::tickAfterLongRun() {
     }
 }
 
-bool QtDesktop::runTick(const std::function<void()>& event) {
-    if (!runOrEnd(event)) {
-        return false;
-    }
-    const bool isChanged = sync();
-    handled();
-    settleRegisters();
-    return isChanged;
-}
-
 void QtDesktop::wakeTimers() {
     for (const auto& [window, view] : views_) {
         if (window->Loaded) {
             view->syncTimers();
         }
-    }
-}
-
-void QtDesktop::handled() {
-    if (OnHandled && !isHandling()) {
-        OnHandled();
     }
 }
 
@@ -403,7 +361,7 @@ void QtDesktop::yield() {
         sinceSync_.start();
     }
     QCoreApplication::processEvents();
-    hasHandledEvents_ = true;
+    noteYield();
     settleRegisters();
     yieldClock_.restart();
 }
@@ -436,7 +394,7 @@ void QtDesktop::openWebPage(const std::string& address) {
 }
 
 void QtDesktop::end() {
-    hasEnded_ = true;
+    noteEnd();
     for (const auto& [window, view] : views_) {
         view->hide();
     }

@@ -7,7 +7,7 @@
 #include <functional>
 #include <map>
 
-#include "platform/kept_input.h"
+#include "platform/event_rounds.h"
 #include "platform/qt/skin.h"
 #include "platform/screen_fit.h"
 #include "platform/services.h"
@@ -17,7 +17,7 @@ namespace ombrelia {
 
 class WindowView;
 
-class QtDesktop : public QObject, public Desktop {
+class QtDesktop : public QObject, public Desktop, public EventRounds {
   public:
     QtDesktop();
     ~QtDesktop() override;
@@ -56,28 +56,10 @@ class QtDesktop : public QObject, public Desktop {
     // Width in units of what docks to the window's right edge.
     double dockedWidth(const Window& window) const;
 
-    // Runs the delivery of an event, then shows what it changed. Ends the process where that was
-    // asked.
-    void run(const std::function<void()>& event);
-
-    // The same for what the user does by mouse or keyboard, which waits while a handler waits.
-    void input(const std::function<void()>& event);
-
-    // The same for a tick of a timer, which wakes no resting one; true if it changed anything that
-    // is seen.
-    bool runTick(const std::function<void()>& event);
-
-    // Starts the timers that rest because nothing had changed.
-    void wakeTimers();
-
-    // Whether a handler waits in a refresh or sleep, during which no timer fires.
-    bool isWaiting() const { return keptInput_.isHolding(); }
+    void wakeTimers() override;
 
     // A window was painted.
     void painted(Window& window);
-
-    // Called when the outermost handler has ended, and before the process does.
-    std::function<void()> OnHandled;
 
     // Called once, when the first window has been painted.
     std::function<void()> OnFirstPaint;
@@ -106,11 +88,10 @@ class QtDesktop : public QObject, public Desktop {
 
   private:
     WindowView& viewOf(Window& window);
-    // Shows what changed; true if anything had.
-    bool sync();
-    void handled();
-    void tickAfterLongRun();
-    bool runOrEnd(const std::function<void()>& event);
+    bool sync() override;
+    void tickAtOnce() override;
+    void leave() override;
+    void settle() override;
     double scaleOn(const QScreen& screen) const;
     void watchScreen(QScreen* screen);
     // Every window takes the scale of its screen anew and comes inside it.
@@ -123,12 +104,9 @@ class QtDesktop : public QObject, public Desktop {
     double offsetUnits_ = 0;
     std::map<Window*, WindowView*> views_;
     YieldClock yieldClock_;
-    QElapsedTimer sinceSync_;        // of a yield
-    bool hasHandledEvents_ = false;  // in a yield of the running handler
+    QElapsedTimer sinceSync_;  // of a yield
     QElapsedTimer sinceRefresh_;
-    KeptInput keptInput_;
     int yieldMilliseconds_ = 0;
-    bool hasEnded_ = false;
 };
 
 }  // namespace ombrelia

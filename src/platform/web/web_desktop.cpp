@@ -33,7 +33,7 @@ WebDesktop::WebDesktop(const EditorSize& editor) : editor_(editor) {
 }
 
 void WebDesktop::runLoop() {
-    while (!hasEnded_) {
+    while (!hasEnded()) {
         pump();
     }
     handled();
@@ -69,7 +69,7 @@ void WebDesktop::fireTimers() {
         windows.push_back(window);
     }
     for (Window* window : windows) {
-        if (WebView* view = find(*window); view != nullptr && !hasEnded_) {
+        if (WebView* view = find(*window); view != nullptr && !hasEnded()) {
             view->tickDue(page_milliseconds());
         }
     }
@@ -99,7 +99,7 @@ WebView* WebDesktop::editorView() const {
 }
 
 void WebDesktop::handle(PageEventKind kind, const Numbers& numbers) {
-    if (hasEnded_) {
+    if (hasEnded()) {
         return;
     }
     if (kind == PageEventKind::Answer) {
@@ -173,39 +173,7 @@ void WebDesktop::handleOf(WebView& view, PageEventKind kind, const Numbers& numb
     }
 }
 
-// False when the process is to end.
-bool WebDesktop::runOrEnd(const std::function<void()>& event) {
-    if (hasEnded_) {
-        return false;
-    }
-    try {
-        event();
-    } catch (const ProcessEnd&) {
-        handled();
-        return false;
-    }
-    return true;
-}
-
-void WebDesktop::run(const std::function<void()>& event) {
-    if (runOrEnd(event)) {
-        tickAfterLongRun();
-        wakeTimers();
-        sync();
-        handled();
-    }
-}
-
-void WebDesktop::input(const std::function<void()>& event) {
-    keptInput_.hand([this, event] { run(event); });
-}
-
-// What a run leaves to the tick after it, as the light that turns green, shall not wait for the
-// next frame.
-void WebDesktop::tickAfterLongRun() {
-    if (isHandling() || !std::exchange(hasHandledEvents_, false)) {
-        return;
-    }
+void WebDesktop::tickAtOnce() {
     std::vector<Window*> windows;
     for (const auto& [window, view] : views_) {
         windows.push_back(window);
@@ -217,24 +185,9 @@ void WebDesktop::tickAfterLongRun() {
     }
 }
 
-bool WebDesktop::runTick(const std::function<void()>& event) {
-    if (!runOrEnd(event)) {
-        return false;
-    }
-    const bool isChanged = sync();
-    handled();
-    return isChanged;
-}
-
 void WebDesktop::wakeTimers() {
     for (const auto& [window, view] : views_) {
         view->syncTimers();
-    }
-}
-
-void WebDesktop::handled() {
-    if (OnHandled && !isHandling()) {
-        OnHandled();
     }
 }
 
@@ -278,12 +231,12 @@ void WebDesktop::yield() {
     wakeTimers();
     sync();
     pump(0);
-    hasHandledEvents_ = true;
+    noteYield();
     yieldClock_.restart();
 }
 
 void WebDesktop::end() {
-    hasEnded_ = true;
+    noteEnd();
     for (const auto& [window, view] : views_) {
         view->hide();
     }

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/kept_input.h"
+#include "platform/event_rounds.h"
 #include "platform/screen_fit.h"
 #include "platform/services.h"
 #include "platform/web/page.h"
@@ -26,7 +26,7 @@ struct PageAnswer {
     std::string text;
 };
 
-class WebDesktop : public Desktop {
+class WebDesktop : public Desktop, public EventRounds {
   public:
     explicit WebDesktop(const EditorSize& editor);
 
@@ -37,22 +37,7 @@ class WebDesktop : public Desktop {
     // and handles what has come.
     void pump(double milliseconds = std::numeric_limits<double>::infinity());
 
-    // Runs the delivery of an event, then shows what it changed.
-    void run(const std::function<void()>& event);
-
-    // The same for what the user does by pointer or keys, which waits while a handler waits.
-    void input(const std::function<void()>& event);
-
-    // The same for a tick of a timer, which wakes no resting one; true if it changed anything that
-    // is seen.
-    bool runTick(const std::function<void()>& event);
-
-    void wakeTimers();
-
-    bool hasEnded() const { return hasEnded_; }
-
-    // Called when the outermost handler has ended, and before the process does.
-    std::function<void()> OnHandled;
+    void wakeTimers() override;
 
     // Waits for a dialog's answer; while it is open no window is active.
     PageAnswer waitForAnswer(int dialog);
@@ -97,10 +82,9 @@ class WebDesktop : public Desktop {
 
     WebView& viewOf(Window& window);
     WebView* byNumber(double number) const;
-    bool sync();
-    void handled();
-    bool runOrEnd(const std::function<void()>& event);
-    void tickAfterLongRun();
+    bool sync() override;
+    void tickAtOnce() override;
+    void leave() override {}
     void fireTimers();
     void handle(PageEventKind kind, const Numbers& numbers);
     void handleOf(WebView& view, PageEventKind kind, const Numbers& numbers);
@@ -112,12 +96,9 @@ class WebDesktop : public Desktop {
     std::vector<std::unique_ptr<WebView>> leaving_;  // of unloaded windows, until nothing runs
     int nextNumber_ = 1;
     Window* active_ = nullptr;
-    KeptInput keptInput_;
     bool hasReleased_ = false;
     YieldClock yieldClock_;
     double lastRefresh_ = -1000;
-    bool hasHandledEvents_ = false;
-    bool hasEnded_ = false;
     int openDialogs_ = 0;
     std::map<int, PageAnswer> answers_;
 };
