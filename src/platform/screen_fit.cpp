@@ -41,6 +41,27 @@ double keptInside(double wished, double length, double freeBegin, double freeLen
     return std::max(freeBegin, std::min(wished, freeBegin + freeLength - length));
 }
 
+ScreenPlace placeInside(const ScreenBox& window, double dockedWidth, const ScreenBox& free) {
+    const double both = window.width + dockedWidth;
+    return {
+        keptInside(window.left, both <= free.width ? both : window.width, free.left, free.width),
+        keptInside(window.top, window.height, free.top, free.height)};
+}
+
+ScreenPlace openingPlace(double width, double height, double dockedWidth, const ScreenBox& around,
+                         const ScreenBox& free, double offset) {
+    const bool hasRoom = width + dockedWidth <= free.width;
+    const double left = around.left + (around.width - width - dockedWidth) / 2 + offset;
+    const double middle = around.top + (around.height - height) / 2 + offset;
+    return placeInside({left, hasRoom ? middle : free.top, width, height}, 0, free);
+}
+
+ScreenPlace dockedPlace(const ScreenBox& beside, const ScreenBox& free) {
+    const double left = keptInside(beside.left, beside.width, free.left, free.width);
+    const double lowest = std::max(free.top, free.top + free.height - beside.height);
+    return {left, left == beside.left ? beside.top : lowest};
+}
+
 double droppedFrom(double fieldTop, double fieldHeight, double height, double freeTop,
                    double freeHeight) {
     const double below = fieldTop + fieldHeight;

@@ -10,6 +10,18 @@
 
 namespace ombrelia {
 
+namespace {
+
+ScreenBox boxOf(const QRect& rect) {
+    return {double(rect.left()), double(rect.top()), double(rect.width()), double(rect.height())};
+}
+
+QPoint pointOf(const ScreenPlace& place) {
+    return {static_cast<int>(place.left), static_cast<int>(place.top)};
+}
+
+}  // namespace
+
 bool canPlaceWindows() {
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
@@ -40,19 +52,14 @@ void WindowView::fitScreen() {
     keepInside();
 }
 
-// What docks to it counts where there is room for both.
 void WindowView::keepInside() {
     if (window_.DockedTo != nullptr || !canPlaceWindows()) {
         return;
     }
-    const QRect free = desktop_.screenOf(window_).availableGeometry();
-    const QSize own = frameGeometry().size();
-    const auto docked =
-        static_cast<int>(std::ceil(desktop_.dockedWidth(window_) * scale_ / ratio_));
-    const int width = own.width() + (own.width() + docked <= free.width() ? docked : 0);
-    const QPoint inside(
-        static_cast<int>(keptInside(pos().x(), width, free.left(), free.width())),
-        static_cast<int>(keptInside(pos().y(), own.height(), free.top(), free.height())));
+    const QRect own(pos(), frameGeometry().size());
+    const double docked = std::ceil(desktop_.dockedWidth(window_) * scale_ / ratio_);
+    const QPoint inside = pointOf(
+        placeInside(boxOf(own), docked, boxOf(desktop_.screenOf(window_).availableGeometry())));
     if (inside != pos()) {
         move(inside);
     }
@@ -76,30 +83,21 @@ void WindowView::place() {
         return;
     }
     const double logicalPerUnit = scale_ / ratio_;
-    const QRect free = desktop_.screenOf(window_).availableGeometry();
-    const QRect around = desktop_.placeAround(window_);
     const double docked = desktop_.dockedWidth(window_) * logicalPerUnit;
     const double offset = desktop_.offsetUnits() * logicalPerUnit;
-    const double left = around.left() + (around.width() - width() - docked) / 2 + offset;
-    const bool hasRoom = width() + docked <= free.width();
-    const double middle = around.top() + (around.height() - height()) / 2.0 + offset;
-    const double top = hasRoom ? middle : free.top();
-    move(static_cast<int>(keptInside(left, width(), free.left(), free.width())),
-         static_cast<int>(keptInside(top, height(), free.top(), free.height())));
+    move(pointOf(openingPlace(width(), height(), docked, boxOf(desktop_.placeAround(window_)),
+                              boxOf(desktop_.screenOf(window_).availableGeometry()), offset)));
     window_.Left = pos().x() / logicalPerUnit;
     window_.Top = pos().y() / logicalPerUnit;
 }
 
 bool WindowView::followRecord() {
     const double logicalPerUnit = scale_ / devicePixelRatioF();
-    const QRect free = desktop_.screenOf(window_).availableGeometry();
-    const double wished = std::round(window_.Left * logicalPerUnit);
-    // Never off the screen. Where there is no room beside its host it lies at the bottom, over as
-    // little of it as can be.
-    const double left = keptInside(wished, width(), free.left(), free.width());
-    const double lowest = std::max(free.top(), free.top() + free.height() - height());
-    const double top = left == wished ? std::round(window_.Top * logicalPerUnit) : lowest;
-    const QPoint target(static_cast<int>(left), static_cast<int>(top));
+    const ScreenBox beside{std::round(window_.Left * logicalPerUnit),
+                           std::round(window_.Top * logicalPerUnit), double(width()),
+                           double(height())};
+    const QPoint target =
+        pointOf(dockedPlace(beside, boxOf(desktop_.screenOf(window_).availableGeometry())));
     if (target == pos()) {
         return false;
     }

@@ -165,7 +165,7 @@ void WebDesktop::handleOf(WebView& view, PageEventKind kind, const Numbers& numb
             break;
         case PageEventKind::Restore:
             window.Minimized = false;
-            view.show();
+            shown(window);
             sync();
             break;
         default:

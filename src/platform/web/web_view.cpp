@@ -37,6 +37,10 @@ bool hasMenus(const Window& window) {
     });
 }
 
+ScreenBox pageBox() {
+    return {0, 0, double(page_width()), double(page_height())};
+}
+
 // As page.h has it.
 int frameOf(const Window& window) {
     if (!window.HasFrame) {
@@ -81,25 +85,22 @@ void WebView::takeScale() {
     look_.forget();
 }
 
-void WebView::place() {
-    const WebView* editor = window_.StandsAlone ? desktop_.editorView() : nullptr;
-    const int docked = devicePixels(desktop_.dockedWidth(window_), scale_);
-    double left = (page_width() - outerWidth() - docked) / 2.0;
-    double top = (page_height() - outerHeight()) / 2.0;
-    if (editor != nullptr) {
-        left = editor->left_ + (editor->width_ - outerWidth()) / 2.0;
-        top = editor->top_ + (editor->height_ - outerHeight()) / 2.0;
-    }
-    moveTo(static_cast<int>(keptInside(left, outerWidth(), 0, page_width())),
-           static_cast<int>(keptInside(top, outerHeight(), 0, page_height())));
+ScreenBox WebView::box() const {
+    return {double(left_), double(top_), double(outerWidth()), double(outerHeight())};
 }
 
-void WebView::moveTo(int left, int top) {
-    left_ = left;
-    top_ = top;
-    window_.Left = left / scale_;
-    window_.Top = top / scale_;
-    page_place_window(number_, left, top, width_, height_, scale_);
+void WebView::place() {
+    const WebView* editor = window_.StandsAlone ? desktop_.editorView() : nullptr;
+    moveTo(openingPlace(outerWidth(), outerHeight(), dockedWidth(),
+                        editor == nullptr ? pageBox() : editor->box(), pageBox(), 0));
+}
+
+void WebView::moveTo(const ScreenPlace& wished) {
+    left_ = static_cast<int>(wished.left);
+    top_ = static_cast<int>(wished.top);
+    window_.Left = left_ / scale_;
+    window_.Top = top_ / scale_;
+    page_place_window(number_, left_, top_, width_, height_, scale_);
     desktop_.dockTo(window_);
 }
 
@@ -113,38 +114,30 @@ void WebView::fitPage() {
         return;
     }
     if (isMoved_) {
-        moveTo(static_cast<int>(left_ / before * scale_), static_cast<int>(top_ / before * scale_));
+        moveTo({left_ / before * scale_, top_ / before * scale_});
         keepInside();
     } else {
         place();
     }
 }
 
-// What docks to it counts where there is room for both.
 void WebView::keepInside() {
-    const int docked = devicePixels(desktop_.dockedWidth(window_), scale_);
-    const int width = outerWidth() + (outerWidth() + docked <= page_width() ? docked : 0);
-    const auto left = static_cast<int>(keptInside(left_, width, 0, page_width()));
-    const auto top = static_cast<int>(keptInside(top_, outerHeight(), 0, page_height()));
-    if (left != left_ || top != top_) {
-        moveTo(left, top);
+    const ScreenPlace inside = placeInside(box(), dockedWidth(), pageBox());
+    if (inside.left != left_ || inside.top != top_) {
+        moveTo(inside);
     }
 }
 
-// Where there is no room beside its host it lies at the bottom, over as little of it as can be.
+int WebView::dockedWidth() const {
+    return devicePixels(desktop_.dockedWidth(window_), scale_);
+}
+
 void WebView::dock() {
     const WebView* host = desktop_.find(*window_.DockedTo);
-    if (host == nullptr) {
-        return;
+    if (host != nullptr) {
+        const double left = host->left_ + host->width_;
+        moveTo(dockedPlace({left, double(host->top_), double(width_), double(height_)}, pageBox()));
     }
-    const int wished = host->left_ + host->width_;
-    const auto left = static_cast<int>(keptInside(wished, width_, 0, page_width()));
-    const int top = left == wished ? host->top_ : std::max(0, page_height() - height_);
-    left_ = left;
-    top_ = top;
-    window_.Left = left / scale_;
-    window_.Top = top / scale_;
-    page_place_window(number_, left, top, width_, height_, scale_);
 }
 
 void WebView::show() {
@@ -332,8 +325,8 @@ bool WebView::moveWindow(const PointerInput& input) {
 void WebView::moveByUser(int left, int top) {
     const int seen = devicePixels(kLeastSeen, scale_);
     isMoved_ = true;
-    moveTo(std::clamp(left, seen - outerWidth(), std::max(0, page_width() - seen)),
-           std::clamp(top, 0, std::max(0, page_height() - seen)));
+    moveTo({double(std::clamp(left, seen - outerWidth(), std::max(0, page_width() - seen))),
+            double(std::clamp(top, 0, std::max(0, page_height() - seen)))});
 }
 
 int WebView::insideTop() const {

@@ -7,6 +7,7 @@
 
 #include "platform/control.h"
 #include "platform/pointer.h"
+#include "platform/screen_fit.h"
 #include "platform/timer_rest.h"
 #include "platform/web/web_brush.h"
 #include "platform/window_look.h"
@@ -82,7 +83,9 @@ class WebView {
 
     void takeScale();
     void place();
-    void moveTo(int left, int top);
+    void moveTo(const ScreenPlace& wished);
+    ScreenBox box() const;
+    int dockedWidth() const;
     void tick(Timer& timer);
     void tellPart(int item, Control& part);
     void syncFrame();

@@ -56,6 +56,40 @@ TEST(ScreenFit, a_list_drops_down_beside_its_field) {
     EXPECT_EQ(droppedFrom(240, 20, 900, 0, 480), 0);
 }
 
+constexpr ScreenBox kScreen{0, 20, 1000, 700};
+
+void expectAt(const ScreenPlace& place, double left, double top) {
+    EXPECT_EQ(place.left, left);
+    EXPECT_EQ(place.top, top);
+}
+
+TEST(ScreenFit, a_window_opens_in_the_middle_with_room_for_what_docks) {
+    expectAt(openingPlace(600, 300, 0, kScreen, kScreen, 0), 200, 220);
+    expectAt(openingPlace(600, 300, 100, kScreen, kScreen, 0), 150, 220);
+    expectAt(openingPlace(600, 300, 100, kScreen, kScreen, 24), 174, 244);
+    expectAt(openingPlace(200, 100, 0, {300, 100, 600, 300}, kScreen, 0), 500, 200);
+}
+
+TEST(ScreenFit, a_window_opens_at_the_top_where_nothing_can_dock_beside_it) {
+    expectAt(openingPlace(600, 300, 400, kScreen, kScreen, 0), 0, 220);
+    expectAt(openingPlace(600, 300, 401, kScreen, kScreen, 0), 0, 20);
+    expectAt(openingPlace(1200, 900, 0, kScreen, kScreen, 0), 0, 20);
+}
+
+TEST(ScreenFit, a_window_comes_inside_with_what_docks_to_it_if_both_fit) {
+    expectAt(placeInside({500, 100, 600, 300}, 0, kScreen), 400, 100);
+    expectAt(placeInside({500, 100, 600, 300}, 300, kScreen), 100, 100);
+    expectAt(placeInside({500, 100, 600, 300}, 500, kScreen), 400, 100);
+    expectAt(placeInside({-50, -50, 600, 300}, 0, kScreen), 0, 20);
+    expectAt(placeInside({10, 700, 600, 300}, 0, kScreen), 10, 420);
+}
+
+TEST(ScreenFit, what_docks_stands_beside_or_at_the_bottom) {
+    expectAt(dockedPlace({800, 100, 200, 300}, kScreen), 800, 100);
+    expectAt(dockedPlace({801, 100, 200, 300}, kScreen), 800, 420);
+    expectAt(dockedPlace({801, 100, 200, 900}, kScreen), 800, 20);
+}
+
 }  // namespace
 
 }  // namespace ombrelia
