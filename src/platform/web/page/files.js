@@ -19,7 +19,11 @@ class PageFiles {
             }
         }
         const name = file.name.replace(/\//g, '_') || 'picture';
-        FS.writeFile(folder + name, new Uint8Array(await file.arrayBuffer()));
+        try {
+            FS.writeFile(folder + name, new Uint8Array(await file.arrayBuffer()));
+        } catch (unreadable) {
+            // The program finds no such file and says so.
+        }
         return name;
     }
 

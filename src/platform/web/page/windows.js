@@ -2,7 +2,8 @@
 'use strict';
 
 const kPointer = {move: 0, press: 1, secondPress: 2, release: 3, leave: 4, wheel: 5};
-const kButtons = [1, 4, 2];  // the program's, by the browser's numbers
+// The program's buttons by the browser's numbers; the same are the bits of those that are held.
+const kButtons = [1, 4, 2];
 const kPart = {text: 1, list: 2, picture: 3, button: 4, checkBox: 5, radioButton: 6, slider: 7};
 
 // A second press is one of a double click if it comes so soon, and so near.
@@ -131,7 +132,11 @@ class PageWindow {
         return [(event.clientX - corner.left) * ratio, (event.clientY - corner.top) * ratio];
     }
 
+    // A second finger is not heard.
     pointer(kind, event, button = 0, notches = 0) {
+        if (event.isPrimary === false) {
+            return;
+        }
         this.put(kEvent.pointer, kind, ...this.placeOf(event), button, notches);
     }
 
@@ -146,13 +151,13 @@ class PageWindow {
             this.pointer(this.kindOfPress(event), event, kButtons[event.button] || 0);
         });
         canvas.addEventListener('pointermove', (event) => {
-            if (event.button > 0) {  // a second button went down or up
-                const kind = (event.buttons & (event.button === 2 ? 2 : 4)) !== 0 ? kPointer.press
-                    : kPointer.release;
-                this.pointer(kind, event, kButtons[event.button] || 0);
-                return;
+            if (event.button >= 0) {  // a second button went down or up
+                const button = kButtons[event.button] || 0;
+                const isHeld = (event.buttons & button) !== 0;
+                this.pointer(isHeld ? kPointer.press : kPointer.release, event, button);
+            } else {
+                this.pointer(kPointer.move, event);
             }
-            this.pointer(kPointer.move, event);
         });
         canvas.addEventListener('pointerup', (event) =>
             this.pointer(kPointer.release, event, kButtons[event.button] || 0));
