@@ -6,7 +6,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ELSEWHERE = ROOT / "tests/unit/tested_elsewhere.tsv"
-BACK_ENDS = ("platform/qt/", "platform/headless/")  # what is tested is the program on them
+BACK_ENDS = ("platform/qt/", "platform/headless/", "platform/web/")  # what is tested is the program on them
 
 
 def main():
