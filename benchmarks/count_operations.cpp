@@ -1,123 +1,20 @@
-// Ten operations at their dearest settings, to be counted instruction by instruction:
+// The dear operations, to be counted instruction by instruction:
 //   count_operations            prints their names
 //   count_operations NAME       runs one of them; counting goes on around it alone
-// Nothing in them depends on time, chance or the disk.
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <valgrind/callgrind.h>
 
 #include "bench_desk.h"
-#include "bench_gestures.h"
-#include "core/button_numbers.h"
-#include "core/editor_state.h"
-#include "desk/run_command.h"
-#include "files/bitmap_import.h"
-#include "games/maze/maze_generator.h"
-#include "games/maze/maze_solver.h"
-#include "platform/dispatch.h"
-#include "platform/services.h"
-#include "terrain/canyon.h"
-#include "terrain/fractal/fractal_terrain.h"
-#include "terrain/mountain.h"
-#include "terrain/raise_lower.h"
-#include "terrain/stroke.h"
-#include "views/map2d/update_map_view.h"
-#include "views/view3d/draw_terrain.h"
-#include "views/view_mode.h"
+#include "dear_operations.h"
 
 namespace ombrelia {
 
 namespace {
 
-struct Operation {
-    const char* name;
-    void (*prepare)();
-    void (*run)();
-};
-
-void generateAtDetail8() {
-    SliderValues(14).Value = 8;
-    double h = 0.1;
-    GenerateFractalTerrain(h, SliderValues(10).Value);
-}
-
-void openPerspective(int style) {
-    generateAtDetail8();
-    SwitchViewMode(kMode3D);
-    for (const int number : {button::kStyleLine, button::kStyleDot, button::kStylePolygon}) {
-        OptionStates(number).State = number == style ? kOn : kUp;
-    }
-}
-
-void drawFull() {
-    DrawTerrain3D(1, kFullDrawing);
-}
-
-void drag() {
-    for (int n = 0; n < kDragMoves; ++n) {
-        RaiseTerrain(dragX(n), dragY(n));
-    }
-}
-
-constexpr int kPictureSide = 1024;
-
-std::string pictureFile() {
-    return (std::filesystem::temp_directory_path() / "count_operations.pgm").string();
-}
-
-void writePicture() {
-    std::ofstream file(pictureFile(), std::ios::binary);
-    file << "P5\n" << kPictureSide << " " << kPictureSide << "\n255\n";
-    for (int y = 0; y < kPictureSide; ++y) {
-        for (int x = 0; x < kPictureSide; ++x) {
-            file.put(static_cast<char>((x / 4) ^ (y / 4)));
-        }
-    }
-}
-
-void openMaze() {
-    using namespace ombrelia::maze;
-    NumColumns = 60;
-    NumRows = 40;
-    completeMazeSize(MazeStyle::Square);
-    allocateMaze();
-}
-
-void tryMazes() {
-    using namespace ombrelia::maze;
-    constexpr int kCandidates = 8;
-    SeedDigits digits{1, 2, 3, 4, 5, 6, 7, 8};
-    for (int n = 0; n < kCandidates; ++n) {
-        std::int16_t rooms = 0;
-        std::int16_t adjacency = 0;
-        GenerateMaze(MazeStyle::Square, digits);
-        SolveMaze(MazeStyle::Square, rooms, adjacency);
-        IncrementSeed(digits);
-    }
-}
-
-const Operation kOperations[] = {
-    {"generate", [] {}, generateAtDetail8},
-    {"refresh", MarkMapForRepaint, [] { UpdateMapView(1); }},
-    {"pencil", [] { recordPath(kLongestPath); }, [] { DrawStroke(kPencilStroke); }},
-    {"mountain", [] {}, [] { BuildMountain(128, 128); }},
-    {"canyon", [] { recordPath(40); }, CarveCanyon},
-    {"raise", [] {}, drag},
-    {"lines", [] { openPerspective(button::kStyleLine); }, drawFull},
-    {"polygons", [] { openPerspective(button::kStylePolygon); }, drawFull},
-    {"import", writePicture, [] { static_cast<void>(importPicture()); }},
-    {"mazes", openMaze, tryMazes},
-};
-
-void count(const Operation& operation) {
-    openToolDesk(kLargeSize);
-    HeadlessPlatform& platform = benchPlatform();
-    platform.OnYield = nullptr;  // no clock
-    platform.OpenAnswers.assign(1, pictureFile());
-    layGround();
-    operation.prepare();
+void count(const DearOperation& operation) {
+    makeReady(operation);
+    benchPlatform().OnYield = nullptr;  // no clock
     CALLGRIND_START_INSTRUMENTATION;
     operation.run();
     CALLGRIND_STOP_INSTRUMENTATION;
@@ -130,13 +27,13 @@ void count(const Operation& operation) {
 int main(int argc, char** argv) {
     using namespace ombrelia;
     const std::string wanted = argc == 2 ? argv[1] : "";
-    for (const Operation& operation : kOperations) {
+    for (const DearOperation& operation : dearOperations()) {
         if (wanted.empty()) {
             std::puts(operation.name);
         } else if (wanted == operation.name) {
             count(operation);
         }
     }
-    std::filesystem::remove(pictureFile());
+    clearAway();
     return 0;
 }
