@@ -30,7 +30,7 @@ class CheckedArray {
   private:
     static std::size_t offset(int i) {
         if (i < Low || i > High) {
-            throw SubscriptFailure(i, Low, High);
+            throwSubscript(i, Low, High);
         }
         return static_cast<std::size_t>(i - Low);
     }
@@ -62,10 +62,10 @@ class CheckedGrid {
   private:
     static std::size_t offset(int x, int y) {
         if (x < 0 || x > Last) {
-            throw SubscriptFailure(x, 0, Last);
+            throwSubscript(x, 0, Last);
         }
         if (y < 0 || y > Last) {
-            throw SubscriptFailure(y, 0, Last);
+            throwSubscript(y, 0, Last);
         }
         return static_cast<std::size_t>(x) +
                static_cast<std::size_t>(kSide) * static_cast<std::size_t>(y);

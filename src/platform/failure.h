@@ -26,6 +26,10 @@ class OverflowFailure : public Failure {
     OverflowFailure(double value, int bits);
 };
 
+// Throw them. Of no loop's own code, which stays small and calls nothing that can wait.
+[[noreturn]] void throwSubscript(long index, long low, long high);
+[[noreturn]] void throwOverflow(double value, int bits);
+
 // A button, face or other part that is asked for by a number that it does not have.
 class MissingPartFailure : public Failure {
   public:

@@ -71,6 +71,14 @@ SubscriptFailure::SubscriptFailure(long index, long low, long high)
 OverflowFailure::OverflowFailure(double value, int bits)
     : Failure(messages::numberTooLarge(value, bits)) {}
 
+void throwSubscript(long index, long low, long high) {
+    throw SubscriptFailure(index, low, high);
+}
+
+void throwOverflow(double value, int bits) {
+    throw OverflowFailure(value, bits);
+}
+
 MissingPartFailure::MissingPartFailure(const std::string& what, int index)
     : Failure(messages::missingPart(what, index)) {}
 

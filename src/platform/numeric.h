@@ -35,7 +35,7 @@ inline std::int64_t floorToWhole(double value) {
 template <typename Narrow>
 Narrow narrowTo(std::int64_t value) {
     if (value < std::numeric_limits<Narrow>::min() || value > std::numeric_limits<Narrow>::max()) {
-        throw OverflowFailure(static_cast<double>(value), 8 * static_cast<int>(sizeof(Narrow)));
+        throwOverflow(static_cast<double>(value), 8 * static_cast<int>(sizeof(Narrow)));
     }
     return static_cast<Narrow>(value);
 }
@@ -47,7 +47,7 @@ Narrow roundTo(double value) {
     constexpr double kLow = static_cast<double>(std::numeric_limits<Narrow>::min()) - 0.5;
     constexpr double kHigh = static_cast<double>(std::numeric_limits<Narrow>::max()) + 0.5;
     if (!(value >= kLow && value <= kHigh)) {
-        throw OverflowFailure(value, 8 * static_cast<int>(sizeof(Narrow)));
+        throwOverflow(value, 8 * static_cast<int>(sizeof(Narrow)));
     }
     return narrowTo<Narrow>(roundToEven(value));
 }

@@ -176,7 +176,7 @@ bool fillPolygon(std::span<const PixelPoint, Extent> corners, const Ground& grou
 
 void Surface::polygon(std::span<const PixelPoint> corners, Color color) {
     if (corners.size() < 3 || corners.size() > kMostCorners) {
-        throw SubscriptFailure(static_cast<long>(corners.size()), 3, kMostCorners);
+        throwSubscript(static_cast<long>(corners.size()), 3, kMostCorners);
     }
     const Ground ground{pixels_.data(), width_, height_, pixelOf(color)};
     const bool isInside = corners.size() == 4 ? fillPolygon(corners.first<4>(), ground)

@@ -120,7 +120,7 @@ std::int16_t cutDistance(int cells) {
 PreparedRing::PreparedRing(int radius, const Directions& directions)
     : radius_(radius), directions_(&directions) {
     if (std::abs(radius) > kMostRadius) {
-        throw OverflowFailure(radius, kPartBits);
+        throwOverflow(radius, kPartBits);
     }
     for (std::size_t n = 0; n < directions.size(); ++n) {
         const std::int32_t x = roundToInt32(radius * directions.cosines()[n] * kParts);

@@ -66,10 +66,10 @@ class MazeGrid {
   private:
     void check(int x, int y) const {
         if (x < 0 || x > maxX_) {
-            throw SubscriptFailure(x, 0, maxX_);
+            throwSubscript(x, 0, maxX_);
         }
         if (y < 0 || y > maxY_) {
-            throw SubscriptFailure(y, 0, maxY_);
+            throwSubscript(y, 0, maxY_);
         }
     }
 

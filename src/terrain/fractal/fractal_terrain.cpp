@@ -169,7 +169,7 @@ void GenerateCommand() {
 void GenerateFractalTerrain(double& h, std::int16_t& height) {
     const int detail = SliderValues(slider::kDetail).Value;
     if (detail < kLowestDetail || detail > kHighestDetail) {
-        throw SubscriptFailure(detail, kLowestDetail, kHighestDetail);
+        throwSubscript(detail, kLowestDetail, kHighestDetail);
     }
     FractalSide = roundToInt16(std::pow(2.0, detail));
     prepareArrays();
