@@ -67,8 +67,7 @@ class FourSteepEdges {
 
     // Finds which edges pass through the present column, and their rows.
     void look() {
-        rows_ = _mm_add_ps(upper_,
-                           _mm_cvtepi32_ps(_mm_cvttps_epi32(_mm_mul_ps(numerator_, reciprocal_))));
+        rows_ = _mm_add_ps(upper_, _mm_cvtepi32_ps(wholesOf(_mm_mul_ps(numerator_, reciprocal_))));
         isHere_ =
             _mm_and_ps(_mm_cmpge_ps(column_, _mm_setzero_ps()), _mm_cmplt_ps(column_, columns_));
     }
@@ -81,14 +80,14 @@ class FourSteepEdges {
         const __m128 low = _mm_add_ps(rows_, away);
         const __m128 high = _mm_sub_ps(away, rows_);
         const __m128 halves = _mm_min_ps(_mm_unpacklo_ps(low, high), _mm_unpackhi_ps(low, high));
-        const __m128i ends = _mm_cvttps_epi32(_mm_min_ps(halves, _mm_movehl_ps(halves, halves)));
+        const __m128i ends = wholesOf(_mm_min_ps(halves, _mm_movehl_ps(halves, halves)));
         const auto both = static_cast<std::uint64_t>(_mm_cvtsi128_si64(ends));
         return {static_cast<std::int32_t>(both), -static_cast<std::int32_t>(both >> 32U)};
     }
 
     std::array<std::int32_t, 4> allRows() const {
         std::array<std::int32_t, 4> rows;
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(rows.data()), _mm_cvttps_epi32(rows_));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(rows.data()), wholesOf(rows_));
         return rows;
     }
 
@@ -100,6 +99,11 @@ class FourSteepEdges {
   private:
     static __m128i load(const PixelPoint* two) {
         return _mm_loadu_si128(reinterpret_cast<const __m128i*>(two));
+    }
+    // As the compiler has it: WebAssembly's own way to the instruction takes each number alone.
+    static __m128i wholesOf(__m128 numbers) {
+        using FourWholes = std::int32_t __attribute__((vector_size(16)));
+        return reinterpret_cast<__m128i>(__builtin_convertvector(numbers, FourWholes));
     }
     static __m128 ones() { return _mm_set1_ps(1); }
     static __m128 numbers(__m128 wholes) { return _mm_cvtepi32_ps(_mm_castps_si128(wholes)); }

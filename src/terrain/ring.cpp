@@ -9,14 +9,6 @@ namespace {
 
 constexpr int kDegrees = 360;
 
-// Largest whole number not above value, |value| below 2^31, in a form of which the compiler makes
-// several at once: the sum with 1.5 * 2^52 has no digits after the point.
-OMBRELIA_IN_BOTH double wholeBelow(double value) {
-    constexpr double kShift = 6755399441055744.0;
-    const double nearest = (value + kShift) - kShift;
-    return nearest - (nearest > value ? 1.0 : 0.0);
-}
-
 // What the loops over the directions of one circle read.
 struct Circle {
     double x, y, r;
@@ -30,7 +22,7 @@ OMBRELIA_IN_BOTH void cellsInside(const Circle& circle, std::int32_t* cells) {
     for (std::size_t n = 0; n < count; ++n) {
         const double px = wholeBelow(x + r * cosines[n]);
         const double py = wholeBelow(y + r * sines[n]);
-        cells[n] = static_cast<std::int32_t>(px + HeightGrid::kSide * py);
+        cells[n] = integerOf(px + HeightGrid::kSide * py);
     }
 }
 
@@ -44,7 +36,7 @@ OMBRELIA_IN_BOTH void cellsAcrossTheBorder(const Circle& circle, double side, st
         cell = px > side ? RingCells::kOutside : cell;
         cell = py < 0 ? RingCells::kOutside : cell;
         cell = py > side ? RingCells::kOutside : cell;
-        cells[n] = static_cast<std::int32_t>(cell);
+        cells[n] = integerOf(cell);
     }
 }
 
