@@ -39,11 +39,13 @@ class CellPainter {
         color_ = packRounded(r_, g_, b_);
     }
 
-    void paint(int x, int y) const {
-        if (isIn3D_) {
-            DrawLineCell(x, y, SliderValues(slider::kResolution).Value, viewCentre());
-            return;
-        }
+    bool isIn3D() const { return isIn3D_; }
+
+    static void paintIn3D(int x, int y) {
+        DrawLineCell(x, y, SliderValues(slider::kResolution).Value, viewCentre());
+    }
+
+    void paintIn2D(int x, int y) const {
         if (MapSize == kViewSide) {
             Form1.MapView.Canvas.setPixel(x, y, color_);
         } else {
@@ -74,10 +76,10 @@ int peakAt(float x, float y, int amount) {
     return narrowTo<std::int16_t>(ground + amount);
 }
 
-// Gives the cells of one circle for which needs(height) holds the new height, and paints them.
-template <typename Needs>
-void writeRing(std::span<const std::int32_t> cells, std::int16_t height, CellPainter& painter,
-               Needs needs) {
+// Gives the cells of one circle for which needs(height) holds the new height, and paints each.
+template <typename Needs, typename Paint>
+void writeCells(std::span<const std::int32_t> cells, std::int16_t height, CellPainter& painter,
+                Needs needs, Paint paint) {
     std::int16_t* heights = HeightMap.data();
     bool hasColor = false;
     for (const std::int32_t cell : cells) {
@@ -89,7 +91,18 @@ void writeRing(std::span<const std::int32_t> cells, std::int16_t height, CellPai
             hasColor = true;
         }
         heights[cell] = height;
-        painter.paint(cell % HeightGrid::kSide, cell / HeightGrid::kSide);
+        paint(cell % HeightGrid::kSide, cell / HeightGrid::kSide);
+    }
+}
+
+template <typename Needs>
+void writeRing(std::span<const std::int32_t> cells, std::int16_t height, CellPainter& painter,
+               Needs needs) {
+    if (painter.isIn3D()) {
+        writeCells(cells, height, painter, needs, CellPainter::paintIn3D);
+    } else {
+        writeCells(cells, height, painter, needs,
+                   [&painter](int x, int y) { painter.paintIn2D(x, y); });
     }
 }
 
@@ -119,17 +132,12 @@ Directions sampleDirections() {
     return wholeDegrees(kSampleDegrees);
 }
 
-}  // namespace
-
-void RaiseTerrain(float x, float y) {
-    const int peak = peakAt(x, y, SliderValues(slider::kRaiseAmount).Value);
-    if (peak == 0) {
-        return;
-    }
+// These loops have nothing to clear away, which in a browser would make every call of theirs dear;
+// so they are not to become a part of what has.
+[[gnu::noinline]] void raiseRings(float x, float y, int peak, const Directions& directions,
+                                  RingCells& ring) {
     const double slope = static_cast<double>(peak) / kParts;
     const int rings = floorToInt(peak / slope);
-    const Directions directions = sampleDirections();
-    RingCells ring;
     CellPainter painter;
     int current = peak;
     for (int r = 1; r <= rings; ++r) {
@@ -142,13 +150,8 @@ void RaiseTerrain(float x, float y) {
     }
 }
 
-void LowerTerrain(float x, float y) {
-    const int peak = peakAt(x, y, -SliderValues(slider::kLowerAmount).Value);
-    if (peak == 0) {
-        return;
-    }
-    const Directions directions = sampleDirections();
-    RingCells ring;
+[[gnu::noinline]] void lowerRings(float x, float y, int peak, const Directions& directions,
+                                  RingCells& ring) {
     CellPainter painter;
     int current = peak;
     for (int r = 1; r <= kLowerRings; ++r) {
@@ -159,6 +162,28 @@ void LowerTerrain(float x, float y) {
             return;
         }
     }
+}
+
+}  // namespace
+
+void RaiseTerrain(float x, float y) {
+    const int peak = peakAt(x, y, SliderValues(slider::kRaiseAmount).Value);
+    if (peak == 0) {
+        return;
+    }
+    const Directions directions = sampleDirections();
+    RingCells ring;
+    raiseRings(x, y, peak, directions, ring);
+}
+
+void LowerTerrain(float x, float y) {
+    const int peak = peakAt(x, y, -SliderValues(slider::kLowerAmount).Value);
+    if (peak == 0) {
+        return;
+    }
+    const Directions directions = sampleDirections();
+    RingCells ring;
+    lowerRings(x, y, peak, directions, ring);
 }
 
 }  // namespace ombrelia
