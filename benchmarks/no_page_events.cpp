@@ -1,0 +1,7 @@
+#include "page_events.h"
+
+namespace ombrelia {
+
+void passEvents() {}
+
+}  // namespace ombrelia
