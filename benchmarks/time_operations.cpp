@@ -1,6 +1,7 @@
 // Times the dear operations, each one made ready anew, which is not timed:
-//   time_operations RUNS [NAME]    prints of each its name, the least of so many runs and the first one,
-//                                  in milliseconds
+//   time_operations RUNS [NAME]
+// prints of each, or of the named one, its name, the least of so many runs and the first of them,
+// in milliseconds.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
