@@ -208,9 +208,9 @@ def sections(results):
         "### How cost grows\n\n" + lay_out(growth(results))))
 
 
-def record(text, path):
+def record(text, path, marks=(BEGIN, END)):
     page = pathlib.Path(path).read_text()
-    begin, end = page.index(BEGIN) + len(BEGIN), page.index(END)
+    begin, end = page.index(marks[0]) + len(marks[0]), page.index(marks[1])
     pathlib.Path(path).write_text(f"{page[:begin]}\n{text}\n{page[end:]}")
 
 
