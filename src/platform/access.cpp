@@ -45,7 +45,7 @@ AccessKind accessKindOf(const Control& control) {
 }
 
 std::string accessNameOf(const Control& control) {
-    const std::string caption = shownText(control.Caption);
+    std::string caption = shownText(control.Caption);
     const std::string name = shownText(control.AccessibleName);
     if (name.empty()) {
         return caption;

@@ -46,7 +46,7 @@ class EventRounds {
     virtual void leave() = 0;
 
     // Called after each event.
-    virtual void settle() {}
+    virtual void settle() = 0;
 
     // Events were handled in a yield of the running handler.
     void noteYield() { hasYielded_ = true; }

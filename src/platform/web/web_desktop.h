@@ -85,6 +85,7 @@ class WebDesktop : public Desktop, public EventRounds {
     bool sync() override;
     void tickAtOnce() override;
     void leave() override {}
+    void settle() override {}
     void fireTimers();
     void handle(PageEventKind kind, const Numbers& numbers);
     void handleOf(WebView& view, PageEventKind kind, const Numbers& numbers);

@@ -78,6 +78,7 @@ TEST(ini_store, a_missing_file_reads_as_the_defaults) {
     IniStore store(folder.file());
     EXPECT_EQ(store.read("Settings", "SavedBefore", "0"), "0");
     EXPECT_TRUE(store.enumerate("Settings").empty());
+    EXPECT_FALSE(store.hasChanges());
     EXPECT_EQ(store.commit(), "");
     EXPECT_FALSE(fs::exists(folder.file())) << "nothing was changed, nothing is written";
 }
@@ -88,6 +89,7 @@ TEST(ini_store, every_text_survives_as_section_key_and_value) {
         IniStore store(folder.file());
         for (const std::string& text : kOddTexts) {
             store.write("ColorPal" + text, text, text);
+            EXPECT_TRUE(store.hasChanges());
         }
         ASSERT_EQ(store.commit(), "");
     }

@@ -96,6 +96,8 @@ TEST_F(WindowLayout, the_ends_of_a_line_are_middles_of_units) {
 TEST_F(WindowLayout, rectangles_meet_and_join) {
     const PixelRect a{0, 0, 10, 10};
     expectPlace(commonOf(a, {5, 6, 20, 20}), 5, 6, 10, 10);
+    EXPECT_EQ(commonOf(a, {5, 6, 20, 20}).width(), 5);
+    EXPECT_EQ(commonOf(a, {5, 6, 20, 20}).height(), 4);
     EXPECT_TRUE(commonOf(a, {10, 0, 20, 10}).isEmpty());
     expectPlace(around(a, {5, 6, 20, 8}), 0, 0, 20, 10);
     EXPECT_EQ(around(a, {}), a);

@@ -184,6 +184,12 @@ TEST_F(WindowPicture, a_line_of_text_has_a_ground_and_an_edge_above) {
                      "fill 0,34-100,35 edge", "text Solved 11 text 6,34-94,50 1"}));
 }
 
+TEST_F(WindowPicture, what_the_frame_shows_by_itself_is_not_painted) {
+    ScrollBar bar;
+    put(bar, 80, 0, 20, 50);
+    EXPECT_EQ(paint(1), (Lines{"begin 0,0-1000,1000 1", "begin 80,0-100,50 1"}));
+}
+
 TEST_F(WindowPicture, a_line_goes_from_end_to_end) {
     Line line;
     Timer timer;
