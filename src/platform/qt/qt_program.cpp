@@ -1,11 +1,10 @@
-#include "platform/program.h"
-
 #include <QApplication>
 #include <QSettings>
 #include <cstdio>
 
 #include "platform/dispatch.h"
 #include "platform/generator_random.h"
+#include "platform/program.h"
 #include "platform/qt/accessibility.h"
 #include "platform/qt/canberra_sound.h"
 #include "platform/qt/editor_slot.h"
