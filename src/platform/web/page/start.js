@@ -111,14 +111,16 @@ class Page {
         document.addEventListener('keydown', (event) => this.hearKey(event));
     }
 
-    // A key goes to the program, unless what has the focus wants it for itself.
+    // A key goes to the program, unless what has the focus wants it for itself, or a dialog that it
+    // closed has taken it.
     hearKey(event) {
         const isForBrowser = event.ctrlKey || event.metaKey || event.altKey || event.key === 'Tab' ||
             event.key === 'F5' || event.key === 'F11' || event.key === 'F12';
         const isForFocus = document.activeElement !== null &&
             document.activeElement !== document.body &&
             ['Enter', ' ', 'ArrowLeft', 'ArrowRight', 'ArrowUp', 'ArrowDown'].includes(event.key);
-        if (this.dialogs.isOpen || this.popup.isOpen || isForBrowser || isForFocus) {
+        if (event.defaultPrevented || this.dialogs.isOpen || this.popup.isOpen || isForBrowser ||
+            isForFocus) {
             return;
         }
         event.preventDefault();
