@@ -90,7 +90,8 @@ class Desk:
 
     def leave(self, keeps_settings=False):
         """So that the browser does not ask when another page is opened."""
-        self.page.evaluate("typeof page === 'undefined' || page === null || (page.hasWork = false, "
+        self.page.evaluate("typeof page === 'undefined' || page === null || (page.setHasWork = () => {}, "
+                           "page.hasWork = false, "
                            f"{'1' if keeps_settings else 'localStorage.clear()'}, 0)")
 
     def open_editor(self, size="Small", keeps_settings=False):
