@@ -76,7 +76,7 @@ class Browser:
         self.close()
 
     def close(self):
-        """The program first: where the screen is gone already, the hands take this process with them."""
+        """The program first, which goes even where the screen is gone and the hands fail."""
         with told():
             try:
                 if self.wire:
@@ -156,20 +156,21 @@ class Browser:
 
     def move(self, x, y):
         """What follows is sent once the pointer is there."""
-        self.hands.move(*self.on_screen(x, y))
+        with told():
+            self.hands.move(*self.on_screen(x, y))
 
     def press(self, x, y, button=1):
         self.move(x, y)
-        self.hands.button(button, 1)
+        self.turn(button, 1)
 
     def release(self, x, y, button=1):
         self.move(x, y)
-        self.hands.button(button, 0)
+        self.turn(button, 0)
 
     def click(self, x, y, button=1):
         """Two at a place in half a second are a double click."""
         self.press(x, y, button)
-        self.hands.button(button, 0)
+        self.turn(button, 0)
 
     def double_click(self, x, y, button=1):
         self.click(x, y, button)
@@ -182,15 +183,19 @@ class Browser:
             time.sleep(pause)
             self.move(*place)
         time.sleep(pause)
-        self.hands.button(button, 0)
+        self.turn(button, 0)
 
     def wheel(self, x, y, steps):
         """Down, or up with a number below zero. Firefox may tell of several steps at once."""
         self.move(x, y)
         number = hands.WHEEL_DOWN if steps > 0 else hands.WHEEL_UP
         for _ in range(abs(steps)):
-            self.hands.button(number, 1)
-            self.hands.button(number, 0)
+            self.turn(number, 1)
+            self.turn(number, 0)
+
+    def turn(self, button, is_down):
+        with told():
+            self.hands.button(button, is_down)
 
     def key(self, name, *holding):
         """A key by its X name (a, Return, Left, F4), while others are held (Shift_L, Control_L)."""

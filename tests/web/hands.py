@@ -18,7 +18,13 @@ NAMES = {"\n": "Return", "\t": "Tab"}
 
 
 class HandsError(Exception):
-    """A key that the keyboard has not, or a place outside the screen."""
+    """A key that the keyboard has not, a place outside the screen, or no screen any more."""
+
+
+# A screen that goes ends who uses it, in the midst of a call, unless both procedures return.
+gone = set()  # displays, which must not be closed then
+SCREEN_GOES = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p)(lambda display: gone.add(display) or 0)
+SCREEN_GONE = ctypes.CFUNCTYPE(None, ctypes.c_void_p, ctypes.c_void_p)(lambda display, data: None)
 
 
 class XImage(ctypes.Structure):
@@ -58,10 +64,15 @@ class Hands(x_monkey.Screen):
         self.x.XGetImage.restype = ctypes.POINTER(XImage)
         self.root = ctypes.c_ulong(self.x.XDefaultRootWindow(self.display))
         self.keys_held = []
+        self.x.XSetIOErrorHandler(SCREEN_GOES)
+        self.x.XSetIOErrorExitHandler(self.display, SCREEN_GONE, None)
 
     def close(self):
-        self.let_go()
-        self.x.XCloseDisplay(self.display)
+        try:
+            self.let_go()
+        finally:
+            if self.display.value not in gone:
+                self.x.XCloseDisplay(self.display)
 
     def let_go(self):
         super().let_go()
@@ -85,8 +96,9 @@ class Hands(x_monkey.Screen):
         x, y, in_x, in_y, state = (ctypes.c_int() for _ in range(5))
         end = time.monotonic() + PATIENCE
         while time.monotonic() < end:
-            self.x.XQueryPointer(self.display, self.root, *map(ctypes.byref, (
-                root, child, x, y, in_x, in_y, state)))
+            if not self.x.XQueryPointer(self.display, self.root, *map(ctypes.byref, (
+                    root, child, x, y, in_x, in_y, state))):
+                raise HandsError("the screen is gone")
             if holds((x.value, y.value), state.value):
                 return
             time.sleep(POLL)

@@ -365,6 +365,29 @@ class WireTest(unittest.TestCase):
         with self.assertRaisesRegex(wire.WireError, "no browser listens at port 1:"):
             wire.Wire(1, "/", None, 5)
 
+    def test_screen_that_goes_is_told(self):
+        script = ("import hands\n"
+                  "mine = hands.Hands()\n"
+                  "print('here', flush=True)\n"
+                  "input()\n"
+                  "try:\n"
+                  "    mine.button(1, 1)\n"
+                  "except hands.HandsError as error:\n"
+                  "    print(error, flush=True)\n"
+                  "mine.held.clear()\n"
+                  "mine.close()\n")
+        with subprocess.Popen(["Xvfb", "-displayfd", "1", "-nolisten", "tcp"], stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, text=True) as screen:
+            environment = dict(os.environ, DISPLAY=":" + screen.stdout.readline().strip())
+            with subprocess.Popen([sys.executable, "-c", script], env=environment, text=True,
+                                  cwd=pathlib.Path(__file__).resolve().parent, stdin=subprocess.PIPE,
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as user:
+                self.assertEqual(user.stdout.readline(), "here\n")
+                screen.kill()
+                screen.wait()
+                self.assertEqual(user.communicate("\n", browser.PATIENCE)[0], "the screen is gone\n")
+                self.assertEqual(user.returncode, 0)
+
     def test_browser_that_is_not_here(self):
         kept = os.environ["PATH"]
         os.environ["PATH"] = "/nowhere"
