@@ -266,14 +266,22 @@ bool ScreenDriver::typeName(const std::string& path) {
     return true;
 }
 
-bool ScreenDriver::keyUntil(const char* name, const std::function<bool()>& holds) {
+bool ScreenDriver::doUntil(const std::function<void()>& deed, const std::function<bool()>& holds) {
     for (int i = 0; i < kTries; ++i) {
-        key(name);
+        deed();
         if (happens(holds)) {
             return true;
         }
     }
     return false;
+}
+
+bool ScreenDriver::keyUntil(const char* name, const std::function<bool()>& holds) {
+    return doUntil([&] { key(name); }, holds);
+}
+
+bool ScreenDriver::clickUntil(const QPoint& place, const std::function<bool()>& holds) {
+    return doUntil([&] { clickAt(place); }, holds);
 }
 
 bool ScreenDriver::nameFile(const std::string& title, const std::string& path) {

@@ -60,9 +60,10 @@ class ScreenDriver {
     // Types a name into the line of the file dialog in front; false if its letters get lost.
     bool typeName(const std::string& path);
 
-    // Presses a key, and again where it gets lost or a list of names takes it for itself; false if
-    // nothing comes of it.
+    // Presses a key or clicks, and again where that gets lost or a list of names takes it for
+    // itself; false if nothing comes of it.
     bool keyUntil(const char* name, const std::function<bool()>& holds);
+    bool clickUntil(const QPoint& place, const std::function<bool()>& holds);
 
     // Names a file in the file dialog with this title. False if it does not come, does not take the
     // name, or stays.
@@ -83,6 +84,7 @@ class ScreenDriver {
     static constexpr int kTries = 3;
     // Looks for three seconds.
     bool happens(const std::function<bool()>& holds);
+    bool doUntil(const std::function<void()>& deed, const std::function<bool()>& holds);
 
     std::atomic<bool> hasEnded_ = false;
     HeardEvents heard_{};

@@ -3,12 +3,15 @@
 #include <QAbstractItemView>
 #include <QDir>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QList>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
+#include <algorithm>
 #include <utility>
 
 #include "platform/messages.h"
@@ -36,7 +39,30 @@ FileDialog::FileDialog(QWidget* parent, FileQuestion question)
     line_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (line_ != nullptr) {
         layOut();
+        name_ = line_->text();
+        connect(line_, &QLineEdit::textChanged, this, &FileDialog::keepName);
     }
+}
+
+// The toolkit selects in the list what was typed, also a file of another folder, and where the line
+// has not the keyboard it then writes that file's bare name, which means another file here.
+void FileDialog::keepName(const QString& text) {
+    const auto* list = findChild<QTreeView*>(QStringLiteral("treeView"));
+    const QModelIndexList selected = list->selectionModel()->selectedRows();
+    const bool isElsewhere =
+        std::any_of(selected.begin(), selected.end(), [this, &text](const QModelIndex& file) {
+            return text == file.data().toString() &&
+                   pathOf(text) != file.data(QFileSystemModel::FilePathRole).toString();
+        });
+    if (!isElsewhere) {
+        name_ = text;
+    } else if (text != name_) {
+        line_->setText(name_);
+    }
+}
+
+QString FileDialog::pathOf(const QString& name) const {
+    return QDir::cleanPath(directory().absoluteFilePath(name));
 }
 
 void FileDialog::layOut() {
@@ -94,7 +120,7 @@ void FileDialog::accept() {
     if (typed.isEmpty()) {
         return;
     }
-    const QString path = QDir::cleanPath(directory().absoluteFilePath(typed));
+    const QString path = pathOf(typed);
     const QFileInfo info(path);
     if (info.isDir()) {
         setDirectory(path);

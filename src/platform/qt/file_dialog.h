@@ -36,9 +36,12 @@ class FileDialog : public QFileDialog {
   private:
     bool isTaken(const QString& path);
     void layOut();
+    void keepName(const QString& text);
+    QString pathOf(const QString& name) const;
 
     FileQuestion question_;
     QLineEdit* line_ = nullptr;  // none in a dialog of the desktop
+    QString name_;               // what stands in the line by the user's will
     QString chosen_;
 };
 
