@@ -8,7 +8,7 @@ TEST_PACKAGES=(x11-xserver-utils libgtest-dev libbenchmark-dev libmagick++-dev l
 # Debian 12 has the plug-in that reads drawings in the library's own package.
 grep -qs '^VERSION_ID="12"' /etc/os-release || TEST_PACKAGES+=(qt6-svg-plugins)
 WEB_PACKAGES=(emscripten nodejs cmake ninja-build ccache python3-fonttools python3-brotli fonts-dejavu-core)
-BROWSER_PACKAGES=(chromium firefox-esr python3-websockets)
+BROWSER_PACKAGES=(chromium firefox-esr python3 python3-websocket)
 CHECK_PACKAGES=(git python3 clang-format desktop-file-utils appstream man-db)
 PACKAGE_PACKAGES=(desktop-file-utils appstream man-db dpkg-dev file lintian mmdebstrap)
 PRESET=${PRESET:-release}  # what the tests are built with; .ci/run takes "strict"

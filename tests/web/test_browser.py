@@ -1,7 +1,7 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """The module by which tests work real browsers, tried on a page that writes down what arrives:
 
-    tools/with_screen.sh 1920x1080 python3 tests/web/test_browser.py"""
+    tools/with_screen.sh 1920x1080 tests/web/test_browser.py [ChromiumTest] [FirefoxTest] [OtherTest]"""
 import os
 import pathlib
 import signal
@@ -360,7 +360,7 @@ class FirefoxTest(Page, unittest.TestCase):
     kind, socket_told = "firefox", NOBODY + "c"
 
 
-class WireTest(unittest.TestCase):
+class OtherTest(unittest.TestCase):
     def test_nobody_listens(self):
         with self.assertRaisesRegex(wire.WireError, "no browser listens at port 1:"):
             wire.Wire(1, "/", None, 5)
