@@ -8,9 +8,9 @@ def chunk(kind, data):
     return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
 
-def gray_png(width, rows, *more):
-    """Eight bits a pixel; more: chunks, a kind and its data."""
-    head = struct.pack(">IIBBBBB", width, len(rows), 8, 0, 0, 0, 0)
+def gray_png(width, rows, *more, bits=8, has_alpha=False):
+    """Rows of bytes, so many bits a sample; more: chunks, a kind and its data."""
+    head = struct.pack(">IIBBBBB", width, len(rows), bits, 4 if has_alpha else 0, 0, 0, 0)
     data = zlib.compress(b"".join(b"\0" + bytes(row) for row in rows))
     return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + b"".join(chunk(*one) for one in more)
             + chunk(b"IDAT", data) + chunk(b"IEND", b""))

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <sys/stat.h>
 #include <sys/time.h>
+#include <unistd.h>
 #include <vector>
 
 #include "platform/binary_file.h"
@@ -56,9 +57,10 @@ void WebDialogs::handOver() {
 
 std::string WebDialogs::askOpenFile(const std::string& title, const std::string& /*filter*/) {
     mkdir(kOpenedFolder, 0777);
+    chdir(kOpenedFolder);  // a file that the user chose has no folder that means anything
     const PageAnswer answer =
         desktop_.waitForAnswer(page_open_dialog("open", title.c_str(), kOpenedFolder, 0, 0));
-    return answer.isAccepted ? kOpenedFolder + answer.text : std::string();
+    return answer.isAccepted ? answer.text : std::string();
 }
 
 Color WebDialogs::askColor(const std::string& title, Color start) {
