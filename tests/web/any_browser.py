@@ -1,5 +1,5 @@
 """What all browsers have in common: the page, the user's hands, and the start. A kind adds run(),
-connect(), navigate(), run_script() and hear()."""
+connect(), navigate(), run_script(), hear() and touch()."""
 import contextlib
 import json
 import math

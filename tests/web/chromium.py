@@ -4,7 +4,7 @@ import time
 
 import quiet
 import wire
-from any_browser import PATIENCE, POLL, Browser, BrowserError
+from any_browser import PATIENCE, POLL, Browser, BrowserError, told
 
 
 class Chromium(Browser):
@@ -65,6 +65,15 @@ class Chromium(Browser):
         wrong = self.ask("Page.navigate", seconds, self.session, url=url).get("errorText")
         if wrong:
             raise BrowserError(f"{url}: {wrong}")
+
+    def touch(self, *places):
+        """A finger comes down at the first place and goes at the last, CSS pixels."""
+        kinds = ["touchStart"] + ["touchMove"] * (len(places) - 1)
+        with told():
+            for kind, (x, y) in zip(kinds, places):
+                self.ask("Input.dispatchTouchEvent", PATIENCE, self.session, type=kind,
+                         touchPoints=[{"x": x, "y": y}])
+            self.ask("Input.dispatchTouchEvent", PATIENCE, self.session, type="touchEnd", touchPoints=[])
 
     def run_script(self, source, seconds):
         done = self.ask("Runtime.evaluate", seconds, self.session, expression=source, awaitPromise=True,

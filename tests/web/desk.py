@@ -25,7 +25,8 @@ KEYS = {"Return": 13, "Escape": 27, "Left": 37, "Up": 38, "Right": 39, "Down": 4
 
 # Counts what the page hears, and sees how long the program means to sleep.
 WATCH = """
-window.heard = {}; window.sleepsFor = 0; window.wakes = 0;
+window.heard = {}; window.sleepsFor = 0; window.wakes = 0; window.isReached = false;
+document.addEventListener('pointermove', () => { isReached = true; }, {once: true});
 {
     const events = page.events, put = events.put, wait = events.wait;
     const kinds = Object.keys(kEvent), pointers = Object.keys(kPointer);
@@ -85,8 +86,15 @@ class Desk:
         self.page.wait_for("page !== null && page.windows.size > 0")
         self.page.evaluate(script(WATCH))
         self.until("windowOf(460)")
+        self.wait(self.is_reached, "the page does not hear of the mouse")
         self.lines = [f"scale {self.scale('frmSplash')!r}", "start"]
         self.at = 0, 0
+
+    def is_reached(self):
+        """Moves the mouse beside the windows. What it does before a page's first picture gets lost."""
+        self.page.move(1, 1)
+        self.page.move(0, 0)
+        return self.page.evaluate("painted().then(() => isReached)")
 
     def leave(self, keeps_settings=False):
         """So that the browser does not ask when another page is opened."""
@@ -159,16 +167,19 @@ class Desk:
         do()
         self.until(f"(heard.{kind} || 0) > {before}", seconds)
 
-    def move(self, window, x, y):
-        """To the device pixel in which the place lies."""
+    def pixel(self, window, x, y):
+        """The device pixel of the page in which a place lies; the line of a scenario that goes there."""
         size = self.size(window)
         pixel = int(x * size["scale"]), int(y * size["scale"])
-        place = size["left"] + pixel[0], size["top"] + pixel[1]
+        units = " ".join(repr((each + 0.5) / size["scale"]) for each in pixel)
+        return (size["left"] + pixel[0], size["top"] + pixel[1]), f"point {window} {units}"
+
+    def move(self, window, x, y):
+        place, line = self.pixel(window, x, y)
         if place != self.at:
             self.heard("move", lambda: self.page.move(*(each / self.page.ratio for each in place)))
         self.at = place
-        units = " ".join(repr((each + 0.5) / size["scale"]) for each in pixel)
-        self.lines.append(f"point {window} {units}")
+        self.lines.append(line)
 
     def down(self, button=1):
         self.heard("pointer", lambda: self.page.hands.button(button, 1))
@@ -219,6 +230,15 @@ class Desk:
         self.drag("Form1", *(self.on_map(*place) for place in places))
         self.rest()
 
+    def touch(self, window, *places):
+        """With a finger, down at the first place and up at the last; what follows from it."""
+        pixels, lines = zip(*(self.pixel(window, *place) for place in places))
+        self.heard("release", lambda: self.page.touch(*([each / self.page.ratio for each in pixel]
+                                                        for pixel in pixels)))
+        self.rest()
+        self.at = None
+        self.lines += [lines[0], "down left", *lines[1:], "up left", "tick 3"]
+
     def key(self, name):
         code = KEYS.get(name) or ord(name.upper())
         self.heard("key", lambda: self.page.key(name))
@@ -228,6 +248,16 @@ class Desk:
         """Drags a slider's thumb to the right, units."""
         x, y = self.middle(name)
         self.drag("Form1", (x, y), (x + by / 2, y), (x + by, y))
+        self.rest()
+
+    def set_slider(self, name, value):
+        """Without the mouse, as assistive technology does; not written down."""
+        self.heard("setPart", lambda: self.page.evaluate(f"""void (() => {{
+            const node = [...{self.window("Form1")}.parts.values()].map((part) => part.element)
+                .find((one) => one.type === 'range' && !one.hidden && nameOf(one) === {json.dumps(name)});
+            node.value = {value};
+            node.dispatchEvent(new Event('input'));
+        }})()"""))
         self.rest()
 
     # Dialogs of the page.

@@ -4,7 +4,7 @@ import time
 
 import quiet
 import wire
-from any_browser import PATIENCE, POLL, Browser, BrowserError
+from any_browser import PATIENCE, POLL, Browser, BrowserError, told
 
 
 class Firefox(Browser):
@@ -48,6 +48,15 @@ class Firefox(Browser):
 
     def navigate(self, url, seconds):
         self.ask("browsingContext.navigate", seconds, context=self.context, url=url, wait="complete")
+
+    def touch(self, *places):
+        """A finger comes down at the first place and goes at the last, CSS pixels."""
+        moves = [{"type": "pointerMove", "x": round(x), "y": round(y)} for x, y in places]
+        finger = {"type": "pointer", "id": "finger", "parameters": {"pointerType": "touch"},
+                  "actions": [moves[0], {"type": "pointerDown", "button": 0}, *moves[1:],
+                              {"type": "pointerUp", "button": 0}]}
+        with told():
+            self.ask("input.performActions", PATIENCE, context=self.context, actions=[finger])
 
     def run_script(self, source, seconds):
         done = self.ask("script.evaluate", seconds, expression=source, target={"context": self.context},

@@ -38,6 +38,15 @@ class Tools(page_case.PageCase):
         self.assertGreater(len(set(file.read_bytes()[1078:])), 60)
         self.assert_same_file(file, "tools.bmp", desk.lines)
 
+    def test_a_finger_does_what_the_mouse_does(self):
+        desk = self.desk
+        desk.open_editor("Small")
+        desk.touch("Form1", desk.middle("Line tool"))
+        desk.touch("Form1", desk.on_map(20, 30), desk.on_map(200, 210))
+        desk.touch("Form1", desk.middle("Mountain tool"))
+        desk.touch("Form1", desk.on_map(128, 100))
+        self.assert_same_file(desk.save("finger.bmp"), "finger.bmp", desk.lines)
+
     def test_pan_and_zoom_show_the_same(self):
         desk = self.desk
         desk.open_editor("Miniature")
