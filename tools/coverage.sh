@@ -6,9 +6,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/setup.sh
 install_missing "${BUILD_PACKAGES[@]}" "${SCREEN_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang llvm
-folder=build-coverage
+folder=build-clang
 screen=(window_tests screen_tests toolkit_tests text_tests two_ways_screen ombrelia-terrain-editor)
-build coverage yes unit_tests scenario "${screen[@]}" two_ways_model
+build clang yes unit_tests scenario "${screen[@]}" two_ways_model
 
 # count SHARE TESTS PROGRAM...: runs the tests, then looks at which lines of the programs ran.
 count() {
@@ -16,7 +16,7 @@ count() {
     shift 2
     step "Running the tests of the $share"
     rm -rf $folder/profiles
-    LLVM_PROFILE_FILE=$PWD/$folder/profiles/%p-%c.profraw run_tests coverage -R "$tests"
+    LLVM_PROFILE_FILE=$PWD/$folder/profiles/%p-%c.profraw run_tests clang -R "$tests"
     step "Counting"
     # A process that is ended as it begins leaves less than a count.
     llvm-profdata merge -sparse -failure-mode=all $folder/profiles/*.profraw \
