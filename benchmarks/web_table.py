@@ -18,6 +18,7 @@ from speed_table import lay_out, machine, record, short, spell
 ROUNDS, RUNS = 8, 12
 MOST_TIMES = 3          # the page's time to the program's
 MOST_BYTES = 2_000_000  # of the page
+LATEST = 1000           # milliseconds until its first picture
 MARKS = ("<!-- measured in a browser: begin -->", "<!-- measured in a browser: end -->")
 DRIVER = pathlib.Path(__file__).resolve().parents[1] / "tests/web"
 
@@ -38,6 +39,10 @@ class Least:
                 kept[name] = min(figure, kept.get(name, figure))
 
 
+def target(is_met, most):
+    return f"{'met' if is_met else 'MISSED'}: at most {most}"
+
+
 def operations(program, script):
     native, web = Least([program]), Least(["node", script])
     for _ in range(ROUNDS):
@@ -48,21 +53,22 @@ def operations(program, script):
         times = web.times[name] / time
         rows.append((name, spell(time * 1e3), spell(web.times[name] * 1e3), short(times),
                      spell(web.firsts[name] * 1e3),
-                     f"{'met' if times <= MOST_TIMES else 'MISSED'}: at most {MOST_TIMES} times"))
+                     target(times <= MOST_TIMES, f"{MOST_TIMES} times")))
     return rows
 
 
 def page(path):
     size = pathlib.Path(path).stat().st_size
     rows = [("What", "figure", "target"),
-            ("the file", f"{size:,} bytes", f"{'met' if size <= MOST_BYTES else 'MISSED'}: at most {MOST_BYTES:,}")]
+            ("the file", f"{size:,} bytes", target(size <= MOST_BYTES, f"{MOST_BYTES:,}"))]
     sys.path.insert(0, str(DRIVER))
     if not os.environ.get("DISPLAY") or importlib.util.find_spec("browser") is None:
         print("left out: the page's start and idling; there is no screen, or nothing to work a browser")
         return rows
     import web_page
     start, idle, empty = web_page.measure(path)
-    return rows + [("from the call of the page to its first picture, Chromium", f"{start:.0f} ms", ""),
+    return rows + [("from the call of the page to its first picture, Chromium", f"{start:.0f} ms",
+                    target(start <= LATEST, f"{LATEST} ms")),
                    ("idle, share of a core, all of Chromium", f"{idle:.2f} %", ""),
                    ("the same with an empty page", f"{empty:.2f} %", "")]
 
