@@ -39,6 +39,13 @@ void openDialog(ScreenDriver& driver, int number, const char* title) {
     ASSERT_TRUE(driver.waitForDialog(title));
 }
 
+// The editor with a map, and one of its menu's dialogs.
+void openFromMenu(ScreenDriver& driver, int number, const char* title) {
+    ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
+    pressWide(driver, button::kMenu);
+    openDialog(driver, number, title);
+}
+
 template <typename Part>
 Part* partOf(const char* name) {
     return QApplication::activeModalWidget()->findChild<Part*>(QString::fromLatin1(name));
@@ -122,9 +129,7 @@ TEST(FileDialogs, what_holds_something_is_said_to_be_never_replaced) {
     const QString other = folder.filePath(QStringLiteral("other.bmp"));
     write(taken, "something");
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kSave, kSave);
+        openFromMenu(driver, button::kSave, kSave);
         expectSentBack(driver, taken, "never replaced");
         ASSERT_TRUE(driver.typeName(other.toStdString()));
         EXPECT_TRUE(driver.keyUntil("Return", [&] { return QFileInfo(other).size() == 5498; }));
@@ -137,9 +142,7 @@ TEST(FileDialogs, an_empty_file_is_used_after_a_question) {
     const QString empty = folder.filePath(QStringLiteral("empty.bmp"));
     write(empty, "");
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kSave, kSave);
+        openFromMenu(driver, button::kSave, kSave);
         expectSentBack(driver, empty, "empty");  // No is the default
         QWidget* dialog = nullptr;
         driver.inProgram([&] { dialog = QApplication::activeModalWidget(); });
@@ -159,9 +162,7 @@ TEST(FileDialogs, a_path_stays_when_its_file_is_selected_in_another_folder) {
     const QString path = folder.filePath(QStringLiteral("there.bmp"));
     write(path, "something");
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kSave, kSave);
+        openFromMenu(driver, button::kSave, kSave);
         ASSERT_TRUE(driver.typeName(path.toStdString()));
         driver.inProgram([&] {
             auto* line = partOf<QLineEdit>("fileNameEdit");
@@ -182,9 +183,7 @@ TEST(FileDialogs, a_click_in_the_list_names_the_file) {
     const QString path = folder.filePath(QStringLiteral("there.bmp"));
     write(path, "something");
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kImport, kImport);
+        openFromMenu(driver, button::kImport, kImport);
         ASSERT_TRUE(driver.typeName(folder.path().toStdString()));
         const QTreeView* list = nullptr;
         driver.inProgram([&] { list = partOf<QTreeView>("treeView"); });
@@ -222,9 +221,7 @@ TEST(FileDialogs, a_name_is_taken_as_it_is_typed) {
 TEST(FileDialogs, a_typed_folder_is_gone_into_and_an_unknown_name_is_told) {
     const QTemporaryDir folder;
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kImport, kImport);
+        openFromMenu(driver, button::kImport, kImport);
         const auto isThere = [&] {
             const auto* dialog = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
             return dialog != nullptr && dialog->directory() == QDir(folder.path());
@@ -245,17 +242,13 @@ TEST(FileDialogs, each_begins_where_it_was_last_and_keeps_its_size) {
     const QTemporaryDir folder;
     const QString picture = folder.filePath(QStringLiteral("p.bmp"));
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kSave, kSave);
+        openFromMenu(driver, button::kSave, kSave);
         driver.inProgram([] { QApplication::activeModalWidget()->resize(900, 700); });
         ASSERT_TRUE(driver.nameFile(kSave, picture.toStdString()));
         ASSERT_TRUE(driver.waitFor([&] { return QFileInfo::exists(picture); }));
     });
     ScreenDriver::run([&](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kSave, kSave);
+        openFromMenu(driver, button::kSave, kSave);
         driver.inProgram([&] {
             auto* dialog = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
             EXPECT_EQ(dialog->directory(), QDir(folder.path()));
@@ -278,9 +271,7 @@ TEST(FileDialogs, each_begins_where_it_was_last_and_keeps_its_size) {
 
 TEST(FileDialogs, all_pictures_come_second) {
     ScreenDriver::run([](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kImport, kImport);
+        openFromMenu(driver, button::kImport, kImport);
         driver.inProgram([] {
             const auto* kinds = partOf<QComboBox>("fileTypeCombo");
             EXPECT_EQ(kinds->itemText(0), "Image Files (*.bmp)");
@@ -294,9 +285,7 @@ TEST(FileDialogs, all_pictures_come_second) {
 
 TEST(FileDialogs, everything_can_be_read) {
     ScreenDriver::run([](ScreenDriver& driver) {
-        ASSERT_TRUE(openEditor(driver, button::kSizeMiniature));
-        pressWide(driver, button::kMenu);
-        openDialog(driver, button::kSave, kSave);
+        openFromMenu(driver, button::kSave, kSave);
         const double scale = driver.scale();
         driver.inProgram([scale] {
             const QWidget* dialog = QApplication::activeModalWidget();
